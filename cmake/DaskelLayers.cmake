@@ -1,0 +1,41 @@
+# SPDX-FileCopyrightText: 2026 The daskel authors
+# SPDX-License-Identifier: LGPL-2.1-or-later
+
+# One CMake target per layer, which links only the layers below it that it may use.
+# Public headers stand in the target's header set: each is compiled alone by the target
+# all_verify_interface_header_sets.
+
+set(DASKEL_INCLUDE_INSTALL_DIR ${CMAKE_INSTALL_INCLUDEDIR}/libdaskel)
+
+# daskel_add_layer(<name> SHARED|OBJECT
+#     [OUTPUT_NAME <library name>] INCLUDE_DIR <dir> HEADERS <files> SOURCES <files>
+#     PUBLIC <targets> [PRIVATE <targets>])
+function(daskel_add_layer name kind)
+    cmake_parse_arguments(LAYER "" "OUTPUT_NAME;INCLUDE_DIR" "HEADERS;SOURCES;PUBLIC;PRIVATE" ${ARGN})
+    add_library(${name} ${kind} ${LAYER_SOURCES})
+    target_sources(${name} PUBLIC FILE_SET HEADERS
+        BASE_DIRS ${LAYER_INCLUDE_DIR} FILES ${LAYER_HEADERS})
+    target_include_directories(${name} PRIVATE ${CMAKE_CURRENT_SOURCE_DIR}/src)
+    target_link_libraries(${name} PUBLIC ${LAYER_PUBLIC} PRIVATE daskel_options ${LAYER_PRIVATE})
+    set_target_properties(${name} PROPERTIES VERIFY_INTERFACE_HEADER_SETS ON)
+    if(kind STREQUAL "SHARED")
+        set_target_properties(${name} PROPERTIES
+            OUTPUT_NAME ${LAYER_OUTPUT_NAME}
+            VERSION ${PROJECT_VERSION}
+            SOVERSION ${PROJECT_VERSION_MAJOR})
+    endif()
+endfunction()
+
+# daskel_add_test(<name> [LABELS <labels>] [SOURCES <files>] LINK <targets>)
+# builds <name>.cpp (and SOURCES) into one test binary and registers it.
+# The label "threaded" marks what also runs under ThreadSanitizer.
+function(daskel_add_test name)
+    cmake_parse_arguments(TEST "" "" "LABELS;SOURCES;LINK" ${ARGN})
+    add_executable(${name} ${name}.cpp ${TEST_SOURCES})
+    target_link_libraries(${name} PRIVATE ${TEST_LINK} Qt5::Test daskel_options)
+    add_test(NAME ${name} COMMAND ${name})
+    set_tests_properties(${name} PROPERTIES
+        LABELS "${TEST_LABELS}"
+        TIMEOUT 300
+        ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
+endfunction()
