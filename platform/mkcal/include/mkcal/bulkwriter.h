@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: 2026 The daskel authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#ifndef MKCAL_BULKWRITER_H
+#define MKCAL_BULKWRITER_H
+
+#include <kcalcompat/kcalcore.h>
+#include <kcalcompat/kdatetime.h>
+
+namespace mKCal
+{
+/// Writes many incidences straight into the database in one transaction, past the calendar in
+/// memory: for imports and synchronisation. Got from ExtendedStorage::bulkWriter(), owned by the
+/// caller, used on one thread; other saves of this process wait until it is gone.
+///
+/// Nothing is stored until commit() succeeds; destroyed before that, all is rolled back.
+class BulkWriter
+{
+public:
+    virtual ~BulkWriter() = default;
+
+    /// What is stored under that UID and recurrence identifier (what this writer wrote included);
+    /// null when there is nothing.
+    virtual KCalCore::Incidence::Ptr find(const QString &uid, const KDateTime &recurrenceId) = 0;
+    /// The notebook that holds that UID; empty when none does.
+    virtual QString notebook(const QString &uid) = 0;
+    /// Stores @p incidence in place of what find() answers. A UID that is already in a notebook
+    /// stays in it; a new one goes into @p notebookUid. False on a storage error (then the whole
+    /// transaction is void) and for an unknown notebook.
+    virtual bool write(const KCalCore::Incidence::Ptr &incidence, const QString &notebookUid) = 0;
+    virtual bool remove(const QString &uid, const KDateTime &recurrenceId) = 0;
+    /// Stores everything, brings the calendar in memory up to date for what was loaded there, and
+    /// notifies the observers once. False when the database refused; nothing is stored then.
+    virtual bool commit() = 0;
+    /// What went wrong, with the file's name; empty when nothing did.
+    virtual QString errorMessage() const = 0;
+};
+} // namespace mKCal
+
+#endif
