@@ -13,8 +13,10 @@ namespace Ostra
 {
 namespace Timed
 {
-/// Where news of the clock and the zone come from. The system's sources are the default; a test
-/// makes one of its own and emits the signals itself.
+/// Where news of the clock and the zone come from.
+///
+/// The system's own source is the default. A test makes a plain TimeSource and emits the signals
+/// itself. Each source has one owner, lives on the thread that makes it and needs its event loop.
 class TimeSource : public QObject
 {
     Q_OBJECT
@@ -23,16 +25,21 @@ public:
     ~TimeSource() override;
 
     using Factory = std::function<std::unique_ptr<TimeSource>()>;
-    /// Makes the sources of every Interface built from now on; an empty function restores the
-    /// system's. For tests of code that makes its own Interface; call it on the UI thread.
+    /// From now on make() answers what @p factory makes; an empty function restores the system's
+    /// source. For tests of code that makes its own Interface; not to be called while another
+    /// thread calls make().
     static void setFactory(Factory factory);
-    /// A source by the factory in force.
+    /// A new source: the system's unless setFactory() said otherwise. Never null as long as the
+    /// factory answers none.
     static std::unique_ptr<TimeSource> make();
 
 Q_SIGNALS:
     /// The clock was set: it now shows @p seconds more (or, negative, less) than it would have.
+    /// In whole seconds, rounded, never 0: what rounds to 0 is kept and added to the next jump, so
+    /// that the sum of all jumps told is right to half a second. Sleep of the machine and the slow
+    /// corrections of a time server are no jumps.
     void clockJumped(qint64 seconds);
-    /// Another zone was chosen, or the system's zone file was replaced.
+    /// Another zone was chosen, or the rules of the system's zone were replaced.
     void zoneChanged();
 };
 } // namespace Timed
