@@ -28,11 +28,16 @@ endfunction()
 
 # daskel_add_test(<name> [LABELS <labels>] [SOURCES <files>] LINK <targets>)
 # builds <name>.cpp (and SOURCES) into one test binary and registers it.
-# The label "threaded" marks what also runs under ThreadSanitizer.
+# The label "threaded" marks what also runs under ThreadSanitizer; the target threaded_tests
+# builds just those.
+add_custom_target(threaded_tests)
 function(daskel_add_test name)
     cmake_parse_arguments(TEST "" "" "LABELS;SOURCES;LINK" ${ARGN})
     add_executable(${name} ${name}.cpp ${TEST_SOURCES})
     target_link_libraries(${name} PRIVATE ${TEST_LINK} Qt5::Test daskel_options)
+    if("threaded" IN_LIST TEST_LABELS)
+        add_dependencies(threaded_tests ${name})
+    endif()
     add_test(NAME ${name} COMMAND ${name})
     set_tests_properties(${name} PROPERTIES
         LABELS "${TEST_LABELS}"

@@ -14,9 +14,16 @@ set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 option(DASKEL_WERROR "Warnings are errors" OFF)
 set(DASKEL_SANITIZERS "" CACHE STRING "Sanitizers to build with, such as address,undefined")
 
+# Libraries are found beside the program that was installed with them, wherever the prefix lies.
+file(RELATIVE_PATH DASKEL_BIN_TO_LIB ${CMAKE_INSTALL_FULL_BINDIR} ${CMAKE_INSTALL_FULL_LIBDIR})
+set(CMAKE_INSTALL_RPATH $ORIGIN $ORIGIN/${DASKEL_BIN_TO_LIB})
+
+# With paths relative to the checkout, build folders of equal options share what is compiled.
 find_program(CCACHE_PROGRAM ccache)
 if(CCACHE_PROGRAM AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
-    set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE_PROGRAM})
+    set(CMAKE_CXX_COMPILER_LAUNCHER
+        ${CMAKE_COMMAND} -E env CCACHE_BASEDIR=${PROJECT_SOURCE_DIR} CCACHE_NOHASHDIR=1
+        ${CCACHE_PROGRAM})
 endif()
 
 add_library(daskel_options INTERFACE)
