@@ -83,7 +83,7 @@ public:
     /// Writes in @p format; empty when invalid. Date-only values are written as a date.
     QString toString(TimeFormat format = ISODate) const;
 
-    bool isNull() const;
+    bool isNull() const { return !isValid(); }
     bool isValid() const;
     bool isDateOnly() const { return m_dateOnly; }
     void setDateOnly(bool dateOnly);
@@ -134,12 +134,49 @@ private:
     bool m_dateOnly = false;
 };
 
+/// A KDateTime beside a QDateTime: both by their moment, a date-only value by the first instant of
+/// its day. Written out for both orders, because the implicit conversion alone would leave the
+/// compiler two ways to compare.
 bool operator==(const KDateTime &a, const QDateTime &b);
-bool operator==(const QDateTime &a, const KDateTime &b);
-bool operator!=(const KDateTime &a, const QDateTime &b);
-bool operator!=(const QDateTime &a, const KDateTime &b);
 bool operator<(const KDateTime &a, const QDateTime &b);
 bool operator<(const QDateTime &a, const KDateTime &b);
+
+inline bool operator==(const QDateTime &a, const KDateTime &b)
+{
+    return b == a;
+}
+inline bool operator!=(const KDateTime &a, const QDateTime &b)
+{
+    return !(a == b);
+}
+inline bool operator!=(const QDateTime &a, const KDateTime &b)
+{
+    return !(b == a);
+}
+inline bool operator<=(const KDateTime &a, const QDateTime &b)
+{
+    return !(b < a);
+}
+inline bool operator<=(const QDateTime &a, const KDateTime &b)
+{
+    return !(b < a);
+}
+inline bool operator>(const KDateTime &a, const QDateTime &b)
+{
+    return b < a;
+}
+inline bool operator>(const QDateTime &a, const KDateTime &b)
+{
+    return b < a;
+}
+inline bool operator>=(const KDateTime &a, const QDateTime &b)
+{
+    return !(a < b);
+}
+inline bool operator>=(const QDateTime &a, const KDateTime &b)
+{
+    return !(a < b);
+}
 
 Q_DECLARE_METATYPE(KDateTime)
 Q_DECLARE_TYPEINFO(KDateTime, Q_MOVABLE_TYPE);

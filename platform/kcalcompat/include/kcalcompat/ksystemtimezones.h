@@ -8,8 +8,8 @@
 #include <QTimeZone>
 
 /// The system's time zones: the one that the device is set to, and the named ones, each built
-/// once and kept (building a zone costs a microsecond and more; a calendar asks thousands of times).
-/// All calls are safe on any thread.
+/// once and kept (building a zone costs a microsecond and more; a calendar asks thousands of
+/// times). All calls are safe on any thread.
 class KSystemTimeZones
 {
 public:
