@@ -1,8 +1,8 @@
 # SPDX-FileCopyrightText: 2026 The daskel authors
 # SPDX-License-Identifier: LGPL-2.1-or-later
 
-# Puts libraries, public headers, the CMake package, the pkg-config file, the translations and the
-# program where the system expects them.
+# Puts libraries, public headers, the CMake package and the pkg-config file where the system expects
+# them. What lies below share/ is installed where it is made.
 
 if(NOT TARGET libdaskel)
     return()
@@ -11,7 +11,8 @@ include(CMakePackageConfigHelpers)
 
 set(DASKEL_PACKAGE_DIR ${CMAKE_INSTALL_LIBDIR}/cmake/daskel)
 
-install(TARGETS kcalcompat systemtime mkcal libdaskel
+set(DASKEL_LIBRARIES libdaskel mkcal systemtime kcalcompat)
+install(TARGETS ${DASKEL_LIBRARIES}
     EXPORT daskelTargets
     FILE_SET HEADERS DESTINATION ${DASKEL_INCLUDE_INSTALL_DIR})
 install(EXPORT daskelTargets NAMESPACE daskel:: DESTINATION ${DASKEL_PACKAGE_DIR})
@@ -29,5 +30,10 @@ install(FILES
 # The pkg-config file finds its prefix from where it lies, as the CMake package does.
 file(RELATIVE_PATH DASKEL_PC_TO_PREFIX
     ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig ${CMAKE_INSTALL_PREFIX})
+set(DASKEL_PC_LIBS)
+foreach(library IN LISTS DASKEL_LIBRARIES)
+    get_target_property(output_name ${library} OUTPUT_NAME)
+    string(APPEND DASKEL_PC_LIBS " -l${output_name}")
+endforeach()
 configure_file(${CMAKE_CURRENT_LIST_DIR}/daskel.pc.in ${PROJECT_BINARY_DIR}/daskel.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/daskel.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
