@@ -1,0 +1,53 @@
+// SPDX-FileCopyrightText: 2026 The daskel authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "console.h"
+
+#include <cstdio>
+#include <unistd.h>
+
+Console::Console(const QString &commandName)
+    : m_out(stdout), m_err(stderr), m_commandName(commandName),
+      m_isTerminal(isatty(STDERR_FILENO) == 1)
+{
+    m_out.setCodec("UTF-8");
+    m_err.setCodec("UTF-8");
+}
+
+void Console::json(const QJsonDocument &document)
+{
+    m_out << QString::fromUtf8(document.toJson());
+}
+
+void Console::message(const QString &text)
+{
+    endProgress();
+    m_out.flush();
+    m_err << QLatin1String("daskel: ");
+    if (!m_commandName.isEmpty()) {
+        m_err << m_commandName << QLatin1String(": ");
+    }
+    m_err << text << Qt::endl;
+}
+
+void Console::progress(qint64 done, qint64 total)
+{
+    constexpr int Width = 40;
+    const int percent = total > 0 ? static_cast<int>(done * 100 / total) : 100;
+    if (!m_isTerminal || percent == m_percent) {
+        return;
+    }
+    m_percent = percent;
+    const int filled = percent * Width / 100;
+    m_err << QLatin1String("\r[") << QString(filled, QLatin1Char('='))
+          << QString(Width - filled, QLatin1Char(' ')) << QStringLiteral("] %1 %").arg(percent, 3)
+          << Qt::flush;
+}
+
+void Console::endProgress()
+{
+    if (m_percent >= 0) {
+        m_err << QLatin1String("\r\033[K") << Qt::flush;
+        m_percent = -1;
+    }
+}

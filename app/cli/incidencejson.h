@@ -1,0 +1,25 @@
+// SPDX-FileCopyrightText: 2026 The daskel authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#ifndef DASKEL_CLI_INCIDENCEJSON_H
+#define DASKEL_CLI_INCIDENCEJSON_H
+
+#include "agenda.h"
+
+#include <QJsonObject>
+
+/// ISO 8601 with the offset from UTC; all-day as a date.
+QString isoText(const QDateTime &time, bool allDay);
+/// "event", "todo" or "journal".
+QString typeName(const KCalCore::Incidence::Ptr &incidence);
+
+/// uid, recurrenceId (null for what does not recur), type, summary, location, notebook, allDay.
+QJsonObject incidenceToJson(const KCalCore::Incidence::Ptr &incidence, const QString &notebookUid,
+                            const KDateTime &recurrenceId);
+/// The same with start and end of the day's piece and of the whole occurrence; ends are exclusive.
+QJsonObject agendaEntryToJson(const AgendaEntry &entry);
+/// All that a person would want to know of one stored incidence.
+QJsonObject incidenceDetailsToJson(const KCalCore::Incidence::Ptr &incidence,
+                                   const QString &notebookUid);
+
+#endif

@@ -1,0 +1,112 @@
+// SPDX-FileCopyrightText: 2026 The daskel authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "command.h"
+#include "console.h"
+#include "database.h"
+#include "incidencejson.h"
+
+#include <kcalcompat/clock.h>
+
+#include <KCalendarCore/Todo>
+
+#include <QCommandLineParser>
+#include <QJsonArray>
+
+#include <limits>
+
+namespace
+{
+const QString AllOption = QStringLiteral("all");
+const QString JsonOption = QStringLiteral("json");
+
+void declare(QCommandLineParser &parser)
+{
+    parser.addOption({AllOption, QStringLiteral("List completed ones too.")});
+    parser.addOption({JsonOption, QStringLiteral("Write JSON.")});
+    NotebookFilter::declare(parser);
+}
+
+bool load(const Database &database, bool completedToo)
+{
+    const auto storage = database.storage();
+    return storage->loadUncompletedTodos()
+        && (!completedToo
+            || storage->loadCompletedTodos(std::numeric_limits<int>::max(), nullptr) >= 0);
+}
+
+/// What is open before what is done, then by due date, what has none last.
+bool comesBefore(const KCalCore::Todo::Ptr &a, const KCalCore::Todo::Ptr &b)
+{
+    if (a->isCompleted() != b->isCompleted()) {
+        return b->isCompleted();
+    }
+    if (a->hasDueDate() != b->hasDueDate()) {
+        return a->hasDueDate();
+    }
+    return a->hasDueDate() && a->dtDue() < b->dtDue();
+}
+
+QString dueText(const KCalCore::Todo::Ptr &todo, const QTimeZone &zone)
+{
+    if (!todo->hasDueDate()) {
+        return {};
+    }
+    const QDateTime due = todo->allDay() ? todo->dtDue() : todo->dtDue().toTimeZone(zone);
+    return due.toString(todo->allDay() ? QStringLiteral("yyyy-MM-dd")
+                                       : QStringLiteral("yyyy-MM-dd HH:mm"));
+}
+
+void print(const KCalCore::Todo::List &todos, const Database &database, QTextStream &out)
+{
+    constexpr int DueWidth = 18;
+    const QTimeZone zone = database.calendar()->timeZone();
+    const QDateTime now = KCalCompat::Clock::now().toTimeZone(zone);
+    for (const auto &todo : todos) {
+        const QString title = todo->summary().simplified();
+        out << (todo->isCompleted() ? "[x] " : "[ ] ")
+            << dueText(todo, zone).leftJustified(DueWidth)
+            << (title.isEmpty() ? QStringLiteral("(no title)") : title);
+        const bool isOverdue = todo->hasDueDate() && !todo->isCompleted()
+            && (todo->allDay() ? todo->dtDue().date() < now.date() : todo->dtDue() < now);
+        out << (isOverdue ? " (overdue)" : "") << '\n';
+    }
+    if (todos.isEmpty()) {
+        out << "Nothing to do.\n";
+    }
+}
+
+ExitCode run(const QCommandLineParser &parser, Console &console)
+{
+    const Database database(console);
+    if (!database.isOpen()) {
+        return Failed;
+    }
+    const bool completedToo = parser.isSet(AllOption);
+    if (!load(database, completedToo)) {
+        console.message(database.storage()->errorMessage());
+        return Failed;
+    }
+    const NotebookFilter filter(database, parser);
+    KCalCore::Todo::List todos;
+    const auto known = database.calendar()->rawTodos();
+    for (const auto &todo : known) {
+        if (filter.shows(todo) && (completedToo || !todo->isCompleted())) {
+            todos.append(todo);
+        }
+    }
+    std::stable_sort(todos.begin(), todos.end(), comesBefore);
+    if (!parser.isSet(JsonOption)) {
+        print(todos, database, console.out());
+        return Done;
+    }
+    QJsonArray array;
+    for (const auto &todo : qAsConst(todos)) {
+        array.append(incidenceDetailsToJson(todo, database.calendar()->notebook(todo)));
+    }
+    console.json(QJsonDocument(array));
+    return Done;
+}
+} // namespace
+
+const Command todosCommand = {"todos", "Lists what is to be done.", declare, run};
