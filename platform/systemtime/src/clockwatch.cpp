@@ -18,7 +18,8 @@ ClockWatch::ClockWatch(std::unique_ptr<KernelClock> clock, QObject *parent)
     : QObject(parent), m_clock(std::move(clock)), m_descriptor(m_clock->open())
 {
     if (m_descriptor < 0 || !m_clock->arm(m_descriptor)) {
-        qCWarning(lcSystemTime, "The clock cannot be watched: %s", std::strerror(errno));
+        const int error = errno;
+        qCWarning(lcSystemTime, "The clock cannot be watched: %s", std::strerror(error));
         return;
     }
     m_told = m_clock->aheadOfBoot();
@@ -39,7 +40,8 @@ void ClockWatch::onReadable()
         return;
     // Armed before the clocks are read: a jump in between is seen now or told by the timer later.
     if (!m_clock->arm(m_descriptor)) {
-        qCWarning(lcSystemTime, "The clock is no longer watched: %s", std::strerror(errno));
+        const int error = errno;
+        qCWarning(lcSystemTime, "The clock is no longer watched: %s", std::strerror(error));
         m_notifier->setEnabled(false);
     }
     const auto untold = m_clock->aheadOfBoot() - m_told;

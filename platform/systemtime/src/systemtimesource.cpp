@@ -13,10 +13,11 @@ namespace Timed
 {
 SystemTimeSource::SystemTimeSource(std::unique_ptr<KernelClock> clock, const ZoneFiles &zoneFiles,
                                    const std::function<QDBusConnection()> &bus, QObject *parent)
-    : TimeSource(parent), m_clock(std::move(clock)), m_zoneFiles(zoneFiles)
+    : TimeSource(parent), m_clock(std::move(clock)), m_zoneFiles(zoneFiles),
+      m_toldZone(m_zoneFiles.zoneName())
 {
     connect(&m_clock, &ClockWatch::jumped, this, &TimeSource::clockJumped);
-    connect(&m_zoneFiles, &ZoneWatch::changed, this, &TimeSource::zoneChanged);
+    connect(&m_zoneFiles, &ZoneWatch::changed, this, [this] { tellZone(m_zoneFiles.zoneName()); });
     QTimer::singleShot(0, this, [this, bus] {
         m_service = std::make_unique<TimedatedWatch>(bus());
         connect(m_service.get(), &TimedatedWatch::timezoneAnnounced, this,
@@ -38,10 +39,14 @@ void SystemTimeSource::onTimezoneAnnounced(const QString &zone)
     // about to. Only a zone that the files do not show (they may be hidden from a confined
     // program) is news.
     m_zoneFiles.check();
-    const bool known = zone == m_zoneFiles.zoneName() || zone == m_announcedZone;
-    m_announcedZone = zone;
-    if (!known)
-        Q_EMIT zoneChanged();
+    if (!zone.isEmpty() && zone != m_toldZone)
+        tellZone(zone);
+}
+
+void SystemTimeSource::tellZone(const QString &zone)
+{
+    m_toldZone = zone;
+    Q_EMIT zoneChanged();
 }
 } // namespace Timed
 } // namespace Ostra

@@ -35,11 +35,12 @@ public:
 
 private:
     void onTimezoneAnnounced(const QString &zone);
+    void tellZone(const QString &zone);
 
     ClockWatch m_clock;
     ZoneWatch m_zoneFiles;
     std::unique_ptr<TimedatedWatch> m_service;
-    QString m_announcedZone;
+    QString m_toldZone;
 };
 } // namespace Timed
 } // namespace Ostra
