@@ -15,6 +15,8 @@ namespace mKCal
 /// incidence types overlooks some of these and compares addresses of attendees.
 /// Not compared: lastModified, created, and custom properties that are volatile.
 QStringList differences(const KCalCore::Incidence &a, const KCalCore::Incidence &b);
+/// Whether differences() would be empty; stops at the first one.
+bool sameContent(const KCalCore::Incidence &a, const KCalCore::Incidence &b);
 } // namespace mKCal
 
 #endif
