@@ -52,11 +52,10 @@ QStringList catalogueFolders(const QStringList &codeFolders, const QStringList &
     constexpr int levelsAbove = 3;
     QStringList folders;
     for (const QString &codeFolder : codeFolders) {
-        QDir folder(codeFolder);
+        QString folder = QDir::cleanPath(codeFolder);
         for (int level = 0; level <= levelsAbove; ++level) {
-            folders << folder.filePath(QStringLiteral("share/daskel/translations"));
-            if (!folder.cdUp())
-                break;
+            folders << QDir(folder).filePath(QStringLiteral("share/daskel/translations"));
+            folder = QFileInfo(folder).path();
         }
     }
     for (const QString &dataFolder : dataFolders)
