@@ -27,8 +27,8 @@ bool addAppointment(DbInstance *database)
 bool listAppointments(DbInstance *database)
 {
     database->load(appointmentDay);
-    const KCalCore::Event::List events
-        = database->calendar()->rawEvents(appointmentDay, appointmentDay);
+    const KCalCore::Event::List events =
+        database->calendar()->rawEvents(appointmentDay, appointmentDay);
     QTextStream out(stdout);
     for (const KCalCore::Event::Ptr &event : events) {
         out << event->dtStart().toString(Qt::ISODate) << ' ' << event->summary() << '\n';
