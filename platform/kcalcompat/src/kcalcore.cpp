@@ -6,10 +6,13 @@
 
 void KCalCompat::registerMetaTypes()
 {
-    // moc and SIGNAL() know a type by the spelling that the source used, and both are in use.
-    qRegisterMetaType<KCalCore::Incidence::Ptr>("KCalCore::Incidence::Ptr");
-    qRegisterMetaType<KCalCore::Incidence::Ptr>("QSharedPointer<KCalCore::Incidence>");
+    // Text connections compare types by their registered names. SIGNAL() keeps the spelling of the
+    // source, while moc expands the macro KCalCore that the library's own build files define.
+    for (const char *name : {"KCalCore::Incidence::Ptr", "QSharedPointer<KCalCore::Incidence>",
+                             "QSharedPointer<KCalendarCore::Incidence>"})
+        qRegisterMetaType<KCalendarCore::Incidence::Ptr>(name);
     qRegisterMetaType<KDateTime>("KDateTime");
     // Without comparators two QVariants that hold equal values would compare as different.
-    QMetaType::registerComparators<KDateTime>();
+    if (!QMetaType::hasRegisteredComparators<KDateTime>())
+        QMetaType::registerComparators<KDateTime>();
 }

@@ -3,12 +3,24 @@
 
 #include "ksystemtimezones_p.h"
 
+#include <kcalcompat/clock.h>
 #include <kcalcompat/kdatetime.h>
 
 namespace
 {
 const QTime midnight(0, 0);
-constexpr qint64 secondsPerDay = 24 * 60 * 60;
+constexpr qint64 secondsPerDay = 86400;
+
+/// QDateTime cannot hold some moments in their zone: the first hours after a last clock change
+/// forward are invalid (1 May 2016 in Caracas), and of an hour that a change without daylight
+/// saving time repeats it knows only the second pass. Such a moment is kept at its offset instead.
+QDateTime inZone(const QDateTime &moment, const QTimeZone &zone)
+{
+    QDateTime there = moment.toTimeZone(zone);
+    if (there.isValid() && there == moment)
+        return there;
+    return moment.toOffsetFromUtc(zone.offsetFromUtc(moment));
+}
 
 /// What the clock shows at @p asked when a clock change leaves that time out: as far after the
 /// change as it was asked for (RFC 5545, section 3.3.5), or the first instant of the day when
@@ -20,23 +32,30 @@ QDateTime existing(const QDateTime &asked)
     if (!asked.date().isValid() || !asked.time().isValid())
         return {};
     const bool zoned = asked.timeSpec() == Qt::TimeZone;
-    if (asked.time() == midnight) {
-        const QDateTime dayStart =
-            zoned ? asked.date().startOfDay(asked.timeZone()) : asked.date().startOfDay();
-        if (dayStart.isValid())
-            return dayStart;
-    }
+    const QTimeZone zone = zoned ? asked.timeZone() : QTimeZone();
     const auto there = [&](const QDateTime &moment) {
-        return zoned ? moment.toTimeZone(asked.timeZone()) : moment.toLocalTime();
+        return zoned ? inZone(moment, zone) : moment.toLocalTime();
     };
-    // A day earlier the offset is still the one before the change, wherever on earth.
+    // A day before and a day after, the offsets are those of either side, wherever on earth.
     const QDateTime wallClock(asked.date(), asked.time(), Qt::UTC);
     const int offsetBefore = there(wallClock.addDays(-1)).offsetFromUtc();
-    return there(wallClock.addSecs(-offsetBefore));
+    const int offsetAfter = there(wallClock.addDays(1)).offsetFromUtc();
+    QDateTime leftByQtAlone = there(wallClock.addSecs(-offsetAfter));
+    if (leftByQtAlone.offsetFromUtc() == offsetAfter)
+        return leftByQtAlone;
+
+    QDateTime moved = there(wallClock.addSecs(-offsetBefore));
+    if (asked.time() != midnight)
+        return moved;
+    const QDateTime dayStart = zoned ? asked.date().startOfDay(zone) : asked.date().startOfDay();
+    return dayStart.isValid() && dayStart < moved ? dayStart : moved;
 }
 
 QDateTime wallClockIn(const KDateTime::Spec &spec, const QDate &date, const QTime &time)
 {
+    // QDateTime would take a missing time for midnight.
+    if (!time.isValid())
+        return {};
     switch (spec.type()) {
     case KDateTime::Invalid:
         break;
@@ -66,10 +85,10 @@ QDateTime momentIn(const KDateTime::Spec &spec, const QDateTime &moment)
     case KDateTime::OffsetFromUTC:
         return moment.toOffsetFromUtc(spec.utcOffset());
     case KDateTime::TimeZone:
-        return moment.toTimeZone(spec.timeZone());
+        return inZone(moment, spec.timeZone());
     case KDateTime::LocalZone: {
         const QTimeZone zone = KCalCompat::systemZone();
-        return zone.isValid() ? moment.toTimeZone(zone) : moment.toLocalTime();
+        return zone.isValid() ? inZone(moment, zone) : moment.toLocalTime();
     }
     case KDateTime::ClockTime:
         return moment.toLocalTime();
@@ -105,7 +124,7 @@ KDateTime::KDateTime(const QDate &date, const QTime &time, const Spec &spec)
 }
 
 KDateTime::KDateTime(const QDateTime &dateTime)
-    : m_dateTime(existing(dateTime)), m_spec(m_dateTime.isValid() ? specOf(m_dateTime) : Spec())
+    : m_dateTime(existing(dateTime)), m_spec(m_dateTime.isValid() ? specOf(dateTime) : Spec())
 {
 }
 
@@ -131,7 +150,7 @@ QDate KDateTime::currentLocalDate()
 
 KDateTime KDateTime::currentDateTime(const Spec &spec)
 {
-    return KDateTime(QDateTime::currentDateTimeUtc(), spec);
+    return KDateTime(KCalCompat::Clock::now(), spec);
 }
 
 bool KDateTime::isValid() const
@@ -231,9 +250,7 @@ KDateTime KDateTime::addSecs(qint64 seconds) const
         return {};
     if (m_dateOnly)
         return addDays(seconds / secondsPerDay);
-    KDateTime moved = *this;
-    moved.m_dateTime = m_dateTime.addSecs(seconds);
-    return moved;
+    return KDateTime(m_dateTime.toUTC().addSecs(seconds), m_spec);
 }
 
 qint64 KDateTime::secsTo(const KDateTime &other) const

@@ -4,15 +4,26 @@
 #include <kcalcompat/kdatetime.h>
 #include <kcalcompat/ksystemtimezones.h>
 
+namespace
+{
+constexpr int secondsPerDay = 24 * 60 * 60;
+}
+
 KDateTime::Spec::Spec(const QTimeZone &zone)
     : m_type(zone.isValid() ? KDateTime::TimeZone : KDateTime::Invalid), m_zone(zone)
 {
 }
 
 KDateTime::Spec::Spec(SpecType type, int utcOffsetSeconds)
-    : m_type(type == KDateTime::TimeZone ? KDateTime::Invalid : type),
-      m_utcOffset(type == KDateTime::OffsetFromUTC ? utcOffsetSeconds : 0)
 {
+    if (type == KDateTime::TimeZone)
+        return;
+    if (type != KDateTime::OffsetFromUTC) {
+        m_type = type;
+    } else if (utcOffsetSeconds > -secondsPerDay && utcOffsetSeconds < secondsPerDay) {
+        m_type = type;
+        m_utcOffset = utcOffsetSeconds;
+    }
 }
 
 KDateTime::Spec KDateTime::Spec::LocalZone()

@@ -10,7 +10,10 @@
 
 /// The name under which the calendar's own code knows the incidence types. Include this header
 /// instead of declaring the namespace: an alias and a namespace of one name cannot meet.
+/// (KCalendarCore's CMake package defines the name as a macro, its pkg-config file does not.)
+#ifndef KCalCore
 namespace KCalCore = KCalendarCore;
+#endif
 
 Q_DECLARE_METATYPE(KCalendarCore::Incidence::Ptr)
 

@@ -13,8 +13,9 @@
 class KSystemTimeZones
 {
 public:
-    /// The zone that the system is set to. When the system's setting names no zone that Qt can
-    /// read (a POSIX rule such as "EET-2EEST"), the answer is still usable: a fixed offset zone.
+    /// The zone that the system is set to, as it was when first asked for or at the last
+    /// configChanged(). When the system's setting names no zone that Qt can read (a POSIX rule
+    /// such as "EET-2EEST"), the answer is still usable: a zone of today's fixed offset.
     static QTimeZone local();
     /// The zone of IANA name @p id, from a cache; an invalid zone when there is none.
     static QTimeZone zone(const QByteArray &id);
@@ -22,7 +23,7 @@ public:
 
     /// Re-reads the system's zone: to be called when /etc/localtime or TZ changed.
     void configChanged();
-    /// Forgets the kept zones.
+    /// Forgets the kept zones; the next call reads them again.
     static void cleanup();
 };
 
