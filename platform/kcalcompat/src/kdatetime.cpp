@@ -23,8 +23,9 @@ QDateTime inZone(const QDateTime &moment, const QTimeZone &zone)
 }
 
 /// What the clock shows at @p asked when a clock change leaves that time out: as far after the
-/// change as it was asked for (RFC 5545, section 3.3.5), or the first instant of the day when
-/// midnight was asked for. QDateTime leaves such a time invalid, and the occurrence would vanish.
+/// change as it was asked for (RFC 5545, section 3.3.5). Gaps that take in a midnight begin with
+/// it, so midnight becomes the first instant of its day. QDateTime leaves such a time invalid, and
+/// the occurrence would vanish.
 QDateTime existing(const QDateTime &asked)
 {
     if (asked.isValid())
@@ -44,11 +45,7 @@ QDateTime existing(const QDateTime &asked)
     if (leftByQtAlone.offsetFromUtc() == offsetAfter)
         return leftByQtAlone;
 
-    QDateTime moved = there(wallClock.addSecs(-offsetBefore));
-    if (asked.time() != midnight)
-        return moved;
-    const QDateTime dayStart = zoned ? asked.date().startOfDay(zone) : asked.date().startOfDay();
-    return dayStart.isValid() && dayStart < moved ? dayStart : moved;
+    return there(wallClock.addSecs(-offsetBefore));
 }
 
 QDateTime wallClockIn(const KDateTime::Spec &spec, const QDate &date, const QTime &time)

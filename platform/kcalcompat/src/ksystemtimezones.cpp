@@ -69,7 +69,7 @@ QTimeZone KSystemTimeZones::utc()
 
 void KSystemTimeZones::configChanged()
 {
-    // For the C library, from which Qt::LocalTime takes its offsets.
+    // For calls of the C library; Qt looks at TZ and /etc/localtime anew each time it is asked.
     tzset();
     KeptZones &kept = keptZones();
     const std::lock_guard<std::mutex> lock(kept.mutex);
