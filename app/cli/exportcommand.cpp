@@ -8,6 +8,7 @@
 #include <mkcal/calendarexporter.h>
 
 #include <QCommandLineParser>
+#include <QFile>
 #include <QSaveFile>
 
 namespace
