@@ -77,13 +77,15 @@ public:
     /// Keeps @p code (extended) and SQLite's own words for it; for statements.
     void noteError(int code);
     /// Keeps a refusal of our own, @p text without the file's name, which is put before it.
-    void noteError(int primaryCode, const QString &text);
+    void noteError(int code, const QString &text);
 
     sqlite3 *handle() const { return m_database; }
 
 private:
-    bool openDatabase(Mode mode);
+    bool openPath(const QByteArray &path, int flags);
     bool setPragmas(Mode mode);
+    bool useWriteAheadLog();
+    void closeHandle();
 
     sqlite3 *m_database = nullptr;
     QString m_fileName;

@@ -9,6 +9,8 @@
 #include <QHash>
 #include <QTimeZone>
 
+#include <memory>
+
 namespace mKCal
 {
 class Statement;
@@ -38,6 +40,8 @@ public:
     /// From @p column (wall clock) and the one after it (tag).
     QDateTime read(const Statement &statement, int column);
     QDateTime read(qint64 wallClock, const QByteArray &tag);
+    /// A moment in milliseconds since 1970.
+    QDateTime readUtc(qint64 milliseconds);
     /// How many could not be read as they stand.
     int faults() const { return m_faults; }
 
@@ -48,9 +52,10 @@ private:
         QTimeZone zone;
     };
     const Zone &zoneOf(const char *tag, int length);
+    static Zone parse(const QByteArray &tag);
     QDateTime make(qint64 wallClock, const Zone &zone);
 
-    QHash<QByteArray, Zone> m_zones;
+    QHash<QByteArray, std::shared_ptr<const Zone>> m_zones;
     QByteArray m_lastTag;
     const Zone *m_lastZone = nullptr;
     int m_faults = 0;

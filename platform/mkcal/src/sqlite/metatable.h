@@ -32,6 +32,8 @@ public:
     bool setDefaultNotebook(const QString &uid);
 
 private:
+    bool write(const QString &key, const QString &value);
+
     Statement m_readMark;
     Statement m_bump;
     Statement m_read;

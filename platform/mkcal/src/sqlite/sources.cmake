@@ -11,11 +11,13 @@ set(MKCAL_SQLITE_SOURCES
     src/sqlite/componentwriter.cpp
     src/sqlite/connection.cpp
     src/sqlite/datetimecolumns.cpp
-    src/sqlite/differences.cpp
+    src/sqlite/incidencecomparison.cpp
+    src/sqlite/incidencecontent.cpp
     src/sqlite/metatable.cpp
     src/sqlite/notebooktable.cpp
+    src/sqlite/recurrencereader.cpp
+    src/sqlite/recurrencewriter.cpp
     src/sqlite/remindertable.cpp
     src/sqlite/schema.cpp
     src/sqlite/schema.qrc
-    src/sqlite/statement.cpp
-    src/sqlite/storagecheck.cpp)
+    src/sqlite/statement.cpp)

@@ -49,6 +49,8 @@ public:
     void bind(int parameter, const QByteArray &value);
     void bind(int parameter, const char *) = delete;
     void bind(int parameter, const SqlValue &value);
+    /// Binds as text what is known to be ASCII.
+    void bindAscii(int parameter, const QByteArray &value);
     void bindNull(int parameter);
     /// Binds from parameter 1 on.
     void bindAll(const SqlValues &values);
@@ -78,13 +80,13 @@ public:
     sqlite3_stmt *handle() const { return m_statement; }
 
 private:
-    bool readyToBind();
+    bool readyToBind(int parameter);
     bool fail(int code);
 
     Connection &m_connection;
     QByteArray m_sql;
     sqlite3_stmt *m_statement = nullptr;
-    QVector<SqlValue> m_held; ///< what SQLite points into
+    QVector<QByteArray> m_held; ///< what SQLite points into
     int m_code = 0;
     bool m_stepping = false;
 };

@@ -61,8 +61,8 @@ CREATE TABLE Components (
     endTz TEXT,
     recIdWall INTEGER,
     recIdTz TEXT,
-    recurrenceWall INTEGER,
-    recurrenceTz TEXT,
+    dueWall INTEGER,
+    dueTz TEXT,
     hasDuration INTEGER NOT NULL DEFAULT 0,
     duration INTEGER,
     durationDaily INTEGER NOT NULL DEFAULT 0,
@@ -81,7 +81,7 @@ CREATE TABLE Components (
     transparency INTEGER NOT NULL DEFAULT 0,
     priority INTEGER NOT NULL DEFAULT 0,
     percentComplete INTEGER NOT NULL DEFAULT 0,
-    completedWall INTEGER,
+    completedTime INTEGER,
     revision INTEGER NOT NULL DEFAULT 0,
     created INTEGER,
     lastModified INTEGER,
@@ -100,6 +100,7 @@ CREATE TABLE Components (
 CREATE UNIQUE INDEX ComponentsLive ON Components(uid, recId) WHERE state = 0;
 CREATE INDEX ComponentsRetired ON Components(uid) WHERE state <> 0;
 CREATE INDEX ComponentsSpan ON Components(span, start, end) WHERE state = 0;
+CREATE INDEX ComponentsSeries ON Components(until, start) WHERE state = 0 AND span = 2;
 CREATE INDEX ComponentsOpen ON Components(start) WHERE state = 0 AND type = 1 AND completed = 0;
 CREATE INDEX ComponentsCompleted ON Components(completed)
     WHERE state = 0 AND type = 1 AND completed > 0;
