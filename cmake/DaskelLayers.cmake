@@ -7,6 +7,32 @@
 
 set(DASKEL_INCLUDE_INSTALL_DIR ${CMAKE_INSTALL_INCLUDEDIR}/libdaskel)
 
+# The headers that nearly every file includes, compiled once for all targets of a build folder: this
+# halves the time that a file takes.
+if(DASKEL_PCH)
+    add_library(daskel_pch OBJECT ${CMAKE_CURRENT_LIST_DIR}/precompiled.cpp)
+    target_link_libraries(daskel_pch PRIVATE daskel_options KF5::CalendarCore)
+    target_precompile_headers(daskel_pch PRIVATE
+        <KCalendarCore/ICalFormat>
+        <KCalendarCore/MemoryCalendar>
+        <QDateTime>
+        <QDebug>
+        <QHash>
+        <QTimeZone>
+        <QVector>)
+endif()
+
+# The compiler takes them only where the calendar's own options are in force.
+set(DASKEL_CALENDAR_LIBRARIES KF5::CalendarCore kcalcompat mkcal daskel_data libdaskel)
+function(daskel_use_precompiled_headers target)
+    foreach(library IN LISTS ARGN)
+        if(DASKEL_PCH AND library IN_LIST DASKEL_CALENDAR_LIBRARIES)
+            target_precompile_headers(${target} REUSE_FROM daskel_pch)
+            return()
+        endif()
+    endforeach()
+endfunction()
+
 # daskel_add_layer(<name> SHARED|OBJECT
 #     [OUTPUT_NAME <library name>] INCLUDE_DIR <dir> HEADERS <files> SOURCES <files>
 #     PUBLIC <targets> [PRIVATE <targets>])
@@ -18,6 +44,7 @@ function(daskel_add_layer name kind)
     target_include_directories(${name} PRIVATE ${CMAKE_CURRENT_SOURCE_DIR}/src)
     target_link_libraries(${name} PUBLIC ${LAYER_PUBLIC} PRIVATE daskel_options ${LAYER_PRIVATE})
     set_target_properties(${name} PROPERTIES VERIFY_INTERFACE_HEADER_SETS ON)
+    daskel_use_precompiled_headers(${name} ${LAYER_PUBLIC})
     if(kind STREQUAL "SHARED")
         set_target_properties(${name} PROPERTIES
             OUTPUT_NAME ${LAYER_OUTPUT_NAME}
@@ -35,6 +62,7 @@ function(daskel_add_test name)
     cmake_parse_arguments(TEST "" "" "LABELS;SOURCES;LINK" ${ARGN})
     add_executable(${name} ${name}.cpp ${TEST_SOURCES})
     target_link_libraries(${name} PRIVATE ${TEST_LINK} Qt5::Test daskel_options)
+    daskel_use_precompiled_headers(${name} ${TEST_LINK})
     if("threaded" IN_LIST TEST_LABELS)
         add_dependencies(threaded_tests ${name})
     endif()
