@@ -1,12 +1,9 @@
 # SPDX-FileCopyrightText: 2026 The daskel authors
 # SPDX-License-Identifier: LGPL-2.1-or-later
 
-# Puts libraries, public headers, the CMake package and the pkg-config file where the system expects
-# them. What lies below share/ is installed where it is made.
+# Puts libraries, public headers, the program, the CMake package and the pkg-config file where the
+# system expects them. What lies below share/ is installed where it is made.
 
-if(NOT TARGET libdaskel)
-    return()
-endif()
 include(CMakePackageConfigHelpers)
 
 set(DASKEL_PACKAGE_DIR ${CMAKE_INSTALL_LIBDIR}/cmake/daskel)
@@ -15,6 +12,7 @@ set(DASKEL_LIBRARIES libdaskel mkcal systemtime kcalcompat)
 install(TARGETS ${DASKEL_LIBRARIES}
     EXPORT daskelTargets
     FILE_SET HEADERS DESTINATION ${DASKEL_INCLUDE_INSTALL_DIR})
+install(TARGETS daskel)
 install(EXPORT daskelTargets NAMESPACE daskel:: DESTINATION ${DASKEL_PACKAGE_DIR})
 
 configure_package_config_file(
