@@ -28,6 +28,7 @@ install(FILES
 # The pkg-config file finds its prefix from where it lies, as the CMake package does.
 file(RELATIVE_PATH DASKEL_PC_TO_PREFIX
     ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig ${CMAKE_INSTALL_PREFIX})
+cmake_path(GET DASKEL_PC_TO_PREFIX PARENT_PATH DASKEL_PC_TO_PREFIX)
 set(DASKEL_PC_LIBS)
 foreach(library IN LISTS DASKEL_LIBRARIES)
     get_target_property(output_name ${library} OUTPUT_NAME)
