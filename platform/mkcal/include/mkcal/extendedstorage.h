@@ -21,7 +21,8 @@ class ExtendedStoragePrivate;
 ///
 /// What was loaded once is remembered: asking again reads only what is missing. While a load runs
 /// on another thread, notifications are held back and calls that touch the calendar wait. A storage
-/// belongs to the thread that made it; only the loads may run on another, one at a time.
+/// belongs to the thread that made it, and notifies there; only open() and the loads may run on
+/// another, one at a time.
 class ExtendedStorage
 {
 public:
@@ -135,6 +136,14 @@ public:
     virtual Notebook::Ptr defaultNotebook() = 0;
     /// The first writable, visible notebook becomes the default.
     virtual bool resetDefaultNotebook() = 0;
+
+    // Changes by other processes. Both calls may come from any thread.
+
+    /// Keeps them out of the calendar, and the observers untold, until releaseNotices() was called
+    /// as often. For work on another thread that goes on with the calendar between its loads.
+    virtual void holdNotices() = 0;
+    /// What was held back is taken in and told from the event loop of the storage's thread.
+    virtual void releaseNotices() = 0;
 
     void registerObserver(ExtendedStorageObserver *observer);
     void unregisterObserver(ExtendedStorageObserver *observer);

@@ -76,6 +76,9 @@ public:
     bool setReminderDismissed(qint64 id) override;
     bool notifyOpened(const KCalCore::Incidence::Ptr &incidence) override;
 
+    void holdNotices() override;
+    void releaseNotices() override;
+
     Notebook::List notebooks() override;
     Notebook::Ptr notebook(const QString &uid) override;
     bool addNotebook(const Notebook::Ptr &notebook, bool signal = true) override;

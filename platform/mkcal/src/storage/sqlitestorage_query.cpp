@@ -1,0 +1,147 @@
+// SPDX-FileCopyrightText: 2026 The daskel authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "storage/sqlitestorage_p.h"
+
+#include <algorithm>
+
+namespace mKCal
+{
+namespace
+{
+/// The first day of @p window on which one of @p incidences occurs; invalid when none does.
+QDate firstDay(ExtendedCalendar &calendar, KCalCore::Incidence::List incidences,
+               const DateRange &window)
+{
+    // More than one for each: an exception may have taken the first one's place.
+    constexpr int occurrences = 20;
+    const KDateTime start(window.first.startOfDay(calendar.timeZone()));
+    const KDateTime end(window.last.addDays(1).startOfDay(calendar.timeZone()));
+    const auto expanded = calendar.expandRecurrences(&incidences, start, end, occurrences);
+    if (expanded.isEmpty())
+        return {};
+    const QDate day = expanded.first().first.dtStart.toTimeZone(calendar.timeZone()).date();
+    return std::max(window.first, day);
+}
+
+bool holdsText(const QString &summary, const QString &description, const QString &location,
+               const QString &text)
+{
+    return summary.contains(text, Qt::CaseInsensitive)
+        || description.contains(text, Qt::CaseInsensitive)
+        || location.contains(text, Qt::CaseInsensitive);
+}
+} // namespace
+
+KCalCore::Incidence::List SqliteStorage::search(const QString &text, int limit)
+{
+    StorageCall call(*d);
+    if (!call.ended(d->isOpen()))
+        return {};
+    // SQLite folds the case of ASCII letters only, so the texts are compared here.
+    Statement &query = d->connection.statement(
+        "SELECT id, CASE span WHEN 2 THEN uid END, uid, recId, summary, description, location,"
+        " (SELECT group_concat(value, char(10)) FROM Props WHERE comp = Components.id"
+        " AND owner = 0 AND kind = 1) FROM Components WHERE state = 0"
+        " ORDER BY start DESC, uid, recId");
+    QVector<QPair<qint64, QString>> ids;
+    QVector<IncidenceKey> keys;
+    while ((limit <= 0 || keys.size() < limit) && query.next()) {
+        if (!holdsText(query.text(4), query.text(5), query.text(6), text)
+            && !query.text(7).contains(text, Qt::CaseInsensitive))
+            continue;
+        ids.append({query.integer(0), query.text(1)});
+        keys.append({query.text(2), query.text(3)});
+    }
+    query.reset();
+    if (!call.ended(!query.failed() && d->loadIds(ids)))
+        return {};
+    KCalCore::Incidence::List found;
+    for (const IncidenceKey &key : qAsConst(keys)) {
+        if (const KCalCore::Incidence::Ptr incidence = findInCalendar(*d->calendar, key))
+            found.append(incidence);
+    }
+    return found;
+}
+
+QDate SqliteStorage::nextDateWithIncidence(const QDate &from)
+{
+    StorageCall call(*d);
+    if (!call.ended(d->isOpen()) || !from.isValid())
+        return {};
+    const QDate horizon = from.addYears(10);
+    // The next one is mostly near: each window is longer than the one before.
+    int days = 7;
+    for (DateRange window{from, from.addDays(days - 1)}; window.first <= horizon;) {
+        KCalCore::Incidence::List found;
+        const auto collect = [&found](const ComponentRow &row) {
+            found.append(row.incidence);
+            return true;
+        };
+        const bool read =
+            d->tables->reader.read("state = 0 AND type < 2 AND span < 2 AND start < ? AND end > ?",
+                                   {window.endKey(), window.firstKey()}, collect)
+            && d->tables->reader.read(
+                "state = 0 AND type < 2 AND uid IN (SELECT uid FROM Components WHERE state = 0"
+                " AND span = 2 AND start < ? AND until > ?)",
+                {window.endKey(), window.firstKey()}, collect);
+        d->loader.countRead();
+        if (!call.ended(read))
+            return {};
+        ExtendedCalendar calendar(d->calendar->timeZone());
+        const QDate day = firstDay(calendar, found, window);
+        if (day.isValid())
+            return day;
+        days *= 4;
+        window = {window.last.addDays(1), std::min(horizon, window.last.addDays(days))};
+        if (!window.isValid())
+            break;
+    }
+    return {};
+}
+
+bool SqliteStorage::allIncidences(KCalCore::Incidence::List *list, const QString &notebookUid)
+{
+    StorageCall call(*d);
+    if (!d->isOpen())
+        return call.ended(false);
+    const auto collect = [list](const ComponentRow &row) {
+        list->append(row.incidence);
+        return true;
+    };
+    d->loader.countRead();
+    return call.ended(notebookUid.isEmpty()
+                          ? d->tables->reader.read("state = 0 ORDER BY id", {}, collect)
+                          : d->tables->reader.read("state = 0 AND notebook = ? ORDER BY id",
+                                                   {notebookUid}, collect));
+}
+
+bool SqliteStorage::deletedIncidences(KCalCore::Incidence::List *list, const QDateTime &since,
+                                      const QString &notebookUid)
+{
+    StorageCall call(*d);
+    if (!d->isOpen())
+        return call.ended(false);
+    const qint64 sinceSeconds = since.isValid() ? since.toSecsSinceEpoch() : 0;
+    return call.ended(d->tables->reader.read(
+        "state = 1 AND stateTime >= ?1 AND (?2 = '' OR notebook = ?2)"
+        " ORDER BY stateTime, id",
+        {sinceSeconds, notebookUid.isNull() ? QString(QLatin1String("")) : notebookUid},
+        [list](const ComponentRow &row) {
+            list->append(row.incidence);
+            return true;
+        }));
+}
+
+bool SqliteStorage::overwrittenIncidences(KCalCore::Incidence::List *list, const QString &uid)
+{
+    StorageCall call(*d);
+    if (!d->isOpen())
+        return call.ended(false);
+    return call.ended(d->tables->reader.read("state = 2 AND uid = ? ORDER BY change, id", {uid},
+                                             [list](const ComponentRow &row) {
+                                                 list->append(row.incidence);
+                                                 return true;
+                                             }));
+}
+} // namespace mKCal
