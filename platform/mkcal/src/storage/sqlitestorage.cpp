@@ -153,10 +153,10 @@ void SqliteStoragePrivate::lookForForeignChanges()
     const qint64 dataVersion = connection.dataVersion();
     if (dataVersion != seenDataVersion && catchUp())
         seenDataVersion = dataVersion;
-    const bool notify = foreignNoticeDue;
+    const bool hasNews = foreignNoticeDue;
     foreignNoticeDue = false;
     lock.unlock();
-    if (notify)
+    if (hasNews)
         notify(QStringLiteral("changed by another process"));
 }
 

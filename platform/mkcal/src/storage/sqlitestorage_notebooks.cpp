@@ -238,7 +238,7 @@ bool SqliteStoragePrivate::notebookCallEnded(StorageCall &call, bool succeeded, 
     notebookErrors = succeeded ? QList<int>() : connection.errorCodes();
     call.ended(succeeded);
     call.release();
-    if (succeeded && notify)
+    if (succeeded && signal)
         notify(info);
     return succeeded;
 }

@@ -79,7 +79,7 @@ public:
     bool makeDefault(const QString &uid, bool *changed);
     /// Takes its incidences and their unsaved changes out of the calendar.
     void dropFromMemory(const QString &uid);
-    bool notebookCallEnded(StorageCall &call, bool succeeded, bool notify, const QString &info);
+    bool notebookCallEnded(StorageCall &call, bool succeeded, bool signal, const QString &info);
 
     bool loadDays(const DateRange &range);
     bool loadRecurringDays(const DateRange &range);
