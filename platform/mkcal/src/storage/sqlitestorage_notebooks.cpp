@@ -232,7 +232,7 @@ bool SqliteStorage::resetDefaultNotebook()
     return d->notebookCallEnded(call, reset, changed, QStringLiteral("default notebook changed"));
 }
 
-bool SqliteStoragePrivate::notebookCallEnded(StorageCall &call, bool succeeded, bool notify,
+bool SqliteStoragePrivate::notebookCallEnded(StorageCall &call, bool succeeded, bool signal,
                                              const QString &info)
 {
     notebookErrors = succeeded ? QList<int>() : connection.errorCodes();
