@@ -12,7 +12,15 @@
 #include <QPair>
 #include <QVector>
 
+#include <kcalendarcore_version.h>
 #include <memory>
+
+// Virtual in KDE Frameworks 5 and gone in 6: overrides there would be errors, calls stay the same.
+#if KCALENDARCORE_VERSION < QT_VERSION_CHECK(6, 0, 0)
+#define MKCAL_OVERRIDE_KF5 override
+#else
+#define MKCAL_OVERRIDE_KF5
+#endif
 
 namespace mKCal
 {
@@ -26,6 +34,12 @@ class ExtendedStorage;
 /// Queries overlap half-open: an event that ends at midnight is not part of the next day.
 /// Results are ordered by start, end, UID and recurrence identifier. Notebook visibility is not
 /// looked at. One owner (thread) at a time; const calls are not thread-safe either.
+///
+/// Observers are told of what is added, changed (a move to another notebook included) and deleted.
+/// An incidence in the calendar keeps its UID and recurrence identifier: to change them, delete it,
+/// change it and add it again. Group the edits of a recurrence with startUpdates() and
+/// endUpdates(). When an incidence was last modified is for the storage to say, not for each
+/// setter.
 class ExtendedCalendar : public KCalCore::MemoryCalendar
 {
     Q_OBJECT
@@ -67,11 +81,19 @@ public:
     bool deleteEvent(const KCalCore::Event::Ptr &event) override;
     bool deleteTodo(const KCalCore::Todo::Ptr &todo) override;
     bool deleteJournal(const KCalCore::Journal::Ptr &journal) override;
+    /// Deletes the exceptions of a series. Deleting a series does so too.
+    bool deleteIncidenceInstances(const KCalCore::Incidence::Ptr &incidence) override;
 
     /// The incidence of that UID and recurrence identifier (null for the series): all-day
     /// identifiers are compared by date, others by instant truncated to seconds.
     KCalCore::Incidence::Ptr incidence(const QString &uid,
                                        const KDateTime &recurrenceId = KDateTime()) const;
+    KCalCore::Event::Ptr event(const QString &uid,
+                               const QDateTime &recurrenceId = {}) const override;
+    KCalCore::Todo::Ptr todo(const QString &uid, const QDateTime &recurrenceId = {}) const override;
+    KCalCore::Journal::Ptr journal(const QString &uid,
+                                   const QDateTime &recurrenceId = {}) const override;
+    using QObject::event;
 
     // Ranges. Both dates are taken in the calendar's time zone and both days are part of the
     // range. A recurring incidence is listed when its series is alive in the range; an exception
@@ -97,8 +119,12 @@ public:
                                   bool inclusive = false) const override;
     KCalCore::Todo::List rawTodosForDate(const QDate &date) const override;
     KCalCore::Journal::List rawJournalsForDate(const QDate &date) const override;
+    KCalCore::Journal::List rawJournals(
+        KCalCore::JournalSortField sortField = KCalCore::JournalSortUnsorted,
+        KCalCore::SortDirection sortDirection = KCalCore::SortDirectionAscending) const override;
     using KCalCore::MemoryCalendar::incidences;
     using KCalCore::MemoryCalendar::journals;
+    using KCalCore::MemoryCalendar::rawEventsForDate;
 
     /// Unrolls recurrences: the occurrences that overlap the window [@p start, @p end), ordered by
     /// start. An occurrence that began before the window is delivered with its real start; one
@@ -140,22 +166,33 @@ public:
     /// Makes a notebook known; storages call it for each that they hold.
     bool addNotebook(const QString &uid, bool isVisible);
     bool updateNotebook(const QString &uid, bool isVisible);
-    /// Forgets a notebook; its incidences leave the calendar without being marked deleted.
+    /// Forgets a notebook; its incidences leave the calendar without being marked deleted:
+    /// observers are not told.
     bool deleteNotebook(const QString &uid);
     bool hasValidNotebook(const QString &uid) const;
     bool setDefaultNotebook(const QString &uid);
     QString defaultNotebook() const;
     /// False, and nothing changed, for an incidence not in this calendar or an unknown notebook.
     bool setNotebook(const KCalCore::Incidence::Ptr &incidence,
-                     const QString &notebookUid) override;
-    QString notebook(const KCalCore::Incidence::Ptr &incidence) const override;
-    QString notebook(const QString &uid) const override;
-    QStringList notebooks() const override;
-    KCalCore::Incidence::List incidences(const QString &notebookUid) const override;
-    void clearNotebookAssociations() override;
+                     const QString &notebookUid) MKCAL_OVERRIDE_KF5;
+    QString notebook(const KCalCore::Incidence::Ptr &incidence) const MKCAL_OVERRIDE_KF5;
+    QString notebook(const QString &uid) const MKCAL_OVERRIDE_KF5;
+    QStringList notebooks() const MKCAL_OVERRIDE_KF5;
+    KCalCore::Incidence::List incidences(const QString &notebookUid) const MKCAL_OVERRIDE_KF5;
+    /// No incidence is in any notebook afterwards.
+    void clearNotebookAssociations() MKCAL_OVERRIDE_KF5;
+    /// What addNotebook() or updateNotebook() said; false for an unknown notebook.
+    bool isVisible(const QString &notebookUid) const;
+    bool isVisible(const KCalCore::Incidence::Ptr &incidence) const;
 
-    void incidenceUpdate(const QString &uid, const QDateTime &recurrenceId) override;
     void incidenceUpdated(const QString &uid, const QDateTime &recurrenceId) override;
+    /// Nothing: relations are read from the incidences. The tables of the base class would mark
+    /// children as changed when their parent is deleted, and cost time for each missing parent.
+    void setupRelations(const KCalCore::Incidence::Ptr &incidence) MKCAL_OVERRIDE_KF5;
+    void removeRelations(const KCalCore::Incidence::Ptr &incidence) MKCAL_OVERRIDE_KF5;
+
+protected:
+    void doSetTimeZone(const QTimeZone &timeZone) override;
 
 private:
     friend class ExtendedCalendarPrivate;

@@ -1,0 +1,345 @@
+// SPDX-FileCopyrightText: 2026 The daskel authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "seriesrules.h"
+
+#include "clockgaps.h"
+#include "dateindex.h"
+#include "recurrenceidentity.h"
+
+#include <kcalcompat/ksystemtimezones.h>
+
+#include <algorithm>
+
+namespace mKCal
+{
+namespace
+{
+using KCalCore::Recurrence;
+using KCalCore::RecurrenceRule;
+
+// Beyond this many occurrences KCalendarCore gives up counting: it then goes on for ever or stops
+// early, depending on the rule.
+constexpr int MostCounted = 9000;
+
+QDate addPeriods(const QDate &date, RecurrenceRule::PeriodType period, qint64 count)
+{
+    switch (period) {
+    case RecurrenceRule::rDaily:
+        return date.addDays(count);
+    case RecurrenceRule::rWeekly:
+        return date.addDays(count * 7);
+    case RecurrenceRule::rMonthly:
+        return date.day() <= 28 ? date.addMonths(static_cast<int>(count)) : QDate();
+    case RecurrenceRule::rYearly:
+        return date.month() != 2 || date.day() <= 28 ? date.addYears(static_cast<int>(count))
+                                                     : QDate();
+    default:
+        return {};
+    }
+}
+
+int secondsOfPeriod(RecurrenceRule::PeriodType period)
+{
+    switch (period) {
+    case RecurrenceRule::rSecondly:
+        return 1;
+    case RecurrenceRule::rMinutely:
+        return 60;
+    case RecurrenceRule::rHourly:
+        return 3600;
+    default:
+        return 0;
+    }
+}
+
+/// How many occurrences each period has: known for rules without BY parts and for weekdays of a
+/// week, 0 for others.
+int occurrencesPerPeriod(const RecurrenceRule &rule)
+{
+    const bool hasOtherParts = !rule.bySeconds().isEmpty() || !rule.byMinutes().isEmpty()
+        || !rule.byHours().isEmpty() || !rule.byMonthDays().isEmpty()
+        || !rule.byYearDays().isEmpty() || !rule.byWeekNumbers().isEmpty()
+        || !rule.byMonths().isEmpty() || !rule.bySetPos().isEmpty();
+    if (hasOtherParts) {
+        return 0;
+    }
+    if (rule.byDays().isEmpty()) {
+        return 1;
+    }
+    return rule.recurrenceType() == RecurrenceRule::rWeekly ? rule.byDays().size() : 0;
+}
+
+/// A moment that the last occurrence of a rule with a count does not pass; null when only counting
+/// them would tell.
+QDateTime boundOfCount(const RecurrenceRule &rule)
+{
+    const int perPeriod = occurrencesPerPeriod(rule);
+    if (perPeriod == 0) {
+        return {};
+    }
+    const qint64 periods = rule.byDays().isEmpty() ? rule.duration() - 1
+                                                   : (rule.duration() + perPeriod - 1) / perPeriod;
+    const qint64 steps = periods * rule.frequency();
+    const QDateTime start = rule.startDt();
+    if (const int seconds = secondsOfPeriod(rule.recurrenceType())) {
+        return start.addSecs(steps * seconds);
+    }
+    const QDate date = addPeriods(start.date(), rule.recurrenceType(), steps);
+    return date.isValid() ? atWallClock(date, start.time(), start.timeZone()) : QDateTime();
+}
+
+/// Such as 30 February: KCalendarCore looks through ten thousand years for it.
+bool namesImpossibleDates(const RecurrenceRule &rule)
+{
+    const auto fits = [&rule](int day) {
+        return std::any_of(rule.byMonths().cbegin(), rule.byMonths().cend(), [day](int month) {
+            return qAbs(day) <= QDate(2000, month, 1).daysInMonth();
+        });
+    };
+    return !rule.byMonths().isEmpty() && !rule.byMonthDays().isEmpty()
+        && std::none_of(rule.byMonthDays().cbegin(), rule.byMonthDays().cend(), fits);
+}
+
+bool isUnbearable(const RecurrenceRule *rule)
+{
+    return rule->duration() > MostCounted || namesImpossibleDates(*rule);
+}
+
+bool isWithinDay(const RecurrenceRule *rule)
+{
+    return secondsOfPeriod(rule->recurrenceType()) > 0;
+}
+
+bool namesTimes(const RecurrenceRule *rule)
+{
+    return !rule->byHours().isEmpty() || !rule->byMinutes().isEmpty()
+        || !rule->bySeconds().isEmpty();
+}
+
+template <typename Predicate> bool anyRule(const Recurrence &recurrence, const Predicate &predicate)
+{
+    const auto included = recurrence.rRules();
+    const auto excluded = recurrence.exRules();
+    return std::any_of(included.cbegin(), included.cend(), predicate)
+        || std::any_of(excluded.cbegin(), excluded.cend(), predicate);
+}
+
+/// Takes what cannot be borne out of a copy of somebody's recurrence: impossible rules go, counts
+/// beyond reason become an end or none.
+void makeBearable(Recurrence *recurrence)
+{
+    const auto bear = [](RecurrenceRule *rule) {
+        const QDateTime end = rule->duration() > MostCounted ? boundOfCount(*rule) : QDateTime();
+        if (end.isValid()) {
+            rule->setEndDt(end);
+        } else if (rule->duration() > MostCounted) {
+            rule->setDuration(-1);
+        }
+    };
+    const auto included = recurrence->rRules();
+    for (RecurrenceRule *rule : included) {
+        if (namesImpossibleDates(*rule)) {
+            recurrence->deleteRRule(rule);
+        } else {
+            bear(rule);
+        }
+    }
+    const auto excluded = recurrence->exRules();
+    for (RecurrenceRule *rule : excluded) {
+        if (namesImpossibleDates(*rule)) {
+            recurrence->deleteExRule(rule);
+        } else {
+            bear(rule);
+        }
+    }
+}
+
+QDateTime inSpecOf(const QDateTime &dateTime, const QDateTime &model)
+{
+    return model.timeSpec() == Qt::LocalTime ? dateTime.toLocalTime()
+                                             : dateTime.toTimeZone(model.timeZone());
+}
+
+/// Rewrites a copy of a recurrence so that its wall clock is counted as UTC, which skips nothing.
+void countWallAsUtc(Recurrence *recurrence)
+{
+    const QDateTime first = recurrence->startDateTime();
+    const auto asUtc = [&first](const QDateTime &dateTime) {
+        const QDateTime wall = inSpecOf(dateTime, first);
+        return QDateTime(wall.date(), wall.time(), Qt::UTC);
+    };
+    const auto allAsUtc = [&asUtc](QList<QDateTime> dateTimes) {
+        std::transform(dateTimes.begin(), dateTimes.end(), dateTimes.begin(), asUtc);
+        return dateTimes;
+    };
+    const auto endAsUtc = [&asUtc](RecurrenceRule *rule) {
+        if (rule->duration() == 0) {
+            rule->setEndDt(asUtc(rule->endDt()));
+        }
+    };
+    const auto included = recurrence->rRules();
+    std::for_each(included.cbegin(), included.cend(), endAsUtc);
+    const auto excluded = recurrence->exRules();
+    std::for_each(excluded.cbegin(), excluded.cend(), endAsUtc);
+    const QList<QDateTime> addedTimes = allAsUtc(recurrence->rDateTimes());
+    const QList<QDateTime> excludedTimes = allAsUtc(recurrence->exDateTimes());
+    recurrence->setStartDateTime(asUtc(first), recurrence->allDay());
+    recurrence->setRDateTimes(addedTimes);
+    recurrence->setExDateTimes(excludedTimes);
+}
+
+/// The last start of a rule, or a moment shortly after it; null when it has no end.
+QDateTime lastOf(const RecurrenceRule &rule)
+{
+    if (namesImpossibleDates(rule)) {
+        return rule.startDt();
+    }
+    if (rule.duration() <= 0) {
+        return rule.duration() == 0 ? rule.endDt() : QDateTime();
+    }
+    const QDateTime bound = boundOfCount(rule);
+    return bound.isValid() || rule.duration() > MostCounted ? bound : rule.endDt();
+}
+} // namespace
+
+TimeSpan lifeOfSeries(const KCalCore::Incidence &series,
+                      const KCalCore::Incidence::List &exceptions, const ZoneClock &clock)
+{
+    TimeSpan life = spanOf(series, clock);
+    const Recurrence &recurrence = *series.recurrence();
+    const bool wallBound = isWallBound(series);
+    const Length length = Length::of(series);
+    const QDateTime first = recurrence.startDateTime();
+    const auto include = [&](const QDateTime &dateTime) {
+        const QDateTime start = inOwnZone(inSpecOf(dateTime, first), wallBound, clock);
+        life.start = qMin(life.start, start.toMSecsSinceEpoch());
+        life.end = qMax(life.end, length.endAfter(start, clock));
+    };
+    const auto rules = recurrence.rRules();
+    for (const RecurrenceRule *rule : rules) {
+        const QDateTime last = lastOf(*rule);
+        if (!last.isValid()) {
+            life.end = DateIndex::Endless;
+            break;
+        }
+        include(last > first ? last : first);
+    }
+    const auto times = recurrence.rDateTimes();
+    for (const QDateTime &added : times) {
+        include(added);
+        const KCalCore::Period period = recurrence.rDateTimePeriod(added);
+        if (period.isValid()) {
+            life.end = qMax(life.end, period.end().toMSecsSinceEpoch());
+        }
+    }
+    const auto days = recurrence.rDates();
+    for (const QDate &added : days) {
+        include(atWallClock(added, first.time(), first.timeZone()));
+    }
+    for (const KCalCore::Incidence::Ptr &exception : exceptions) {
+        if (exception->thisAndFuture() && anchor(*exception).isValid()) {
+            const TimeSpan moved = spanOf(*exception, clock);
+            const Msecs shift = moved.start - exception->recurrenceId().toMSecsSinceEpoch();
+            life.start = qMin(life.start, life.start + shift);
+            if (life.end != DateIndex::Endless) {
+                life.end += qMax<Msecs>(0, shift) + (moved.end - moved.start);
+            }
+        }
+    }
+    return life;
+}
+
+SeriesScale::SeriesScale(const KCalCore::Incidence &series, const ZoneClock &calendarClock)
+    : clock(calendarClock),
+      first(series.recurs() ? series.recurrence()->startDateTime() : anchor(series)),
+      zone(first.timeSpec() == Qt::LocalTime ? KSystemTimeZones::local() : first.timeZone()),
+      isAllDay(series.allDay()), isWallBound(isAllDay || first.timeSpec() == Qt::LocalTime)
+{
+}
+
+qint64 SeriesScale::keyOfStart(const QDateTime &start) const
+{
+    return isWallBound ? wallSeconds(start) : start.toSecsSinceEpoch();
+}
+
+qint64 SeriesScale::keyOf(const QDateTime &recurrenceId) const
+{
+    if (isAllDay) {
+        const QDate day = recurrenceDate(recurrenceId, clock.zone());
+        return wallSeconds(QDateTime(day, first.time(), Qt::UTC));
+    }
+    const bool isElsewhere = isWallBound && recurrenceId.timeSpec() != Qt::LocalTime;
+    return keyOfStart(isElsewhere ? recurrenceId.toTimeZone(clock.zone()) : recurrenceId);
+}
+
+qint64 SeriesScale::keyAt(Msecs moment) const
+{
+    return keyOfStart(QDateTime::fromMSecsSinceEpoch(moment, clock.zone()));
+}
+
+SeriesWalk::SeriesWalk(const KCalCore::Incidence &series, const SeriesScale &scale, Msecs from,
+                       Msecs to)
+    : m_scale(scale), m_recurrence(series.recurrence())
+{
+    const bool isTooMuch = anyRule(*m_recurrence, isUnbearable);
+    m_isWallCopy = needsWallCopy(from, to);
+    if (isTooMuch || m_isWallCopy) {
+        m_copy = std::make_unique<Recurrence>(*m_recurrence);
+        makeBearable(m_copy.get());
+        if (m_isWallCopy) {
+            countWallAsUtc(m_copy.get());
+        }
+        m_recurrence = m_copy.get();
+    }
+}
+
+bool SeriesWalk::needsWallCopy(Msecs from, Msecs to) const
+{
+    const ClockGaps gaps = ClockGaps::of(m_scale.zone);
+    if (gaps.isEmpty() || anyRule(*m_recurrence, isWithinDay)) {
+        return false;
+    }
+    // A skipped start does not count towards COUNT in KCalendarCore: each later end is wrong.
+    const auto counts = [](const RecurrenceRule *rule) { return rule->duration() > 0; };
+    const Msecs since = anyRule(*m_recurrence, counts) ? m_scale.first.toMSecsSinceEpoch() : from;
+    return gaps.skip(m_scale.first.time(), since, to) || anyRule(*m_recurrence, namesTimes);
+}
+
+void SeriesWalk::goAfter(qint64 key)
+{
+    if (!m_scale.isWallBound) {
+        m_current = QDateTime::fromSecsSinceEpoch(key, m_scale.zone);
+        if (m_isWallCopy) {
+            m_current = QDateTime(m_current.date(), m_current.time(), Qt::UTC);
+        }
+        return;
+    }
+    const QDateTime wall = QDateTime::fromSecsSinceEpoch(key, Qt::UTC);
+    m_current = m_isWallCopy ? wall : atWallClock(wall.date(), wall.time(), m_scale.zone);
+}
+
+bool SeriesWalk::next()
+{
+    m_current = m_recurrence->getNextDateTime(m_current);
+    return m_current.isValid();
+}
+
+QDateTime SeriesWalk::start() const
+{
+    if (!m_scale.isWallBound && !m_isWallCopy) {
+        return m_current;
+    }
+    return atWallClock(m_current.date(), m_current.time(),
+                       m_scale.isWallBound ? m_scale.clock.zone() : m_scale.zone);
+}
+
+QDateTime SeriesWalk::recurrenceId() const
+{
+    if (!m_scale.isWallBound) {
+        return start();
+    }
+    const QDateTime shown = atWallClock(m_current.date(), m_current.time(), m_scale.zone);
+    return m_scale.first.timeSpec() == Qt::LocalTime ? shown.toLocalTime() : shown;
+}
+} // namespace mKCal

@@ -1,0 +1,54 @@
+// SPDX-FileCopyrightText: 2026 The daskel authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "zoneclock.h"
+
+#include <kcalcompat/ksystemtimezones.h>
+
+namespace mKCal
+{
+QDateTime atWallClock(const QDate &date, const QTime &time, const QTimeZone &zone)
+{
+    const QDateTime shown(date, time, zone);
+    if (shown.isValid() || !date.isValid()) {
+        return shown;
+    }
+    // A day and a half reaches behind the longest gap there is, the day that Apia left out in 2011.
+    const QDateTime asUtc(date, time, Qt::UTC);
+    const int offsetBefore = zone.offsetFromUtc(asUtc.addSecs(-129600));
+    return asUtc.addSecs(-offsetBefore).toTimeZone(zone);
+}
+
+qint64 wallSeconds(const QDateTime &dateTime)
+{
+    return (dateTime.date().toJulianDay() - QDate(1970, 1, 1).toJulianDay()) * 86400
+        + dateTime.time().msecsSinceStartOfDay() / 1000;
+}
+
+ZoneClock::ZoneClock(const QTimeZone &zone)
+    : m_zone(zone.isValid() ? zone : KSystemTimeZones::local()),
+      m_isSystem(m_zone == KSystemTimeZones::local())
+{
+}
+
+Msecs ZoneClock::at(const QDate &date, const QTime &time) const
+{
+    return atWallClock(date, time, m_zone).toMSecsSinceEpoch();
+}
+
+Msecs ZoneClock::dayStart(const QDate &date) const
+{
+    const QDateTime midnight(date, QTime(0, 0), m_zone);
+    if (midnight.isValid()) {
+        return midnight.toMSecsSinceEpoch();
+    }
+    const QDateTime first = date.startOfDay(m_zone);
+    return first.isValid() ? first.toMSecsSinceEpoch() : at(date, QTime(0, 0));
+}
+
+QDateTime ZoneClock::dateTime(Msecs moment) const
+{
+    return m_isSystem ? QDateTime::fromMSecsSinceEpoch(moment)
+                      : QDateTime::fromMSecsSinceEpoch(moment, m_zone);
+}
+} // namespace mKCal
