@@ -1,0 +1,48 @@
+// SPDX-FileCopyrightText: 2026 The daskel authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "bench.h"
+
+#include <kcalcompat/clock.h>
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+
+#include <ctime>
+
+int main(int argc, char *argv[])
+{
+    qputenv("TZ", "Europe/Helsinki");
+    tzset();
+    const QCoreApplication application(argc, argv);
+    KCalCompat::Clock::setSource(
+        [] { return QDateTime(SampleData::middle(), QTime(9, 0), Qt::UTC); });
+
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        QStringLiteral("Measures the calendar's parts beside their floors; prints each figure as a "
+                       "line of JSON."));
+    parser.addHelpOption();
+    parser.addOption(
+        {QStringLiteral("samples"), QStringLiteral("Only make the sample calendars.")});
+    parser.addPositionalArgument(QStringLiteral("folder"),
+                                 QStringLiteral("Where the sample calendars are kept."));
+    parser.addPositionalArgument(QStringLiteral("filter"),
+                                 QStringLiteral("Part of the name of a wanted figure."),
+                                 QStringLiteral("[filter...]"));
+    parser.process(application);
+    const QStringList words = parser.positionalArguments();
+    if (words.isEmpty()) {
+        parser.showHelp(2);
+    }
+
+    const Bench bench(words.first(), words.mid(1));
+    bench.makeSamples();
+    if (!parser.isSet(QStringLiteral("samples"))) {
+        measureStorage(bench);
+        measureImport(bench);
+        measureCalendar(bench);
+        measureCache(bench);
+    }
+    return 0;
+}
