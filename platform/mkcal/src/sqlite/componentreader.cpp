@@ -195,9 +195,10 @@ bool ComponentReaderPrivate::readRow(const Statement &row, ComponentRow *compone
         return false;
     if (incidence->type() == IncidenceBase::TypeTodo && !row.isNull(RecurrenceDue))
         static_cast<Todo *>(incidence.data())->setDtRecurrence(dateTimes.read(row, RecurrenceDue));
+    // Nothing more is noted on what stays here: it refuses a time of modification.
+    incidence->setLastModified(moment(row, LastModified));
     if (row.integer(LocalOnly) != 0)
         incidence->setLocalOnly(true);
-    incidence->setLastModified(moment(row, LastModified));
     if (row.integer(ReadOnly) != 0)
         incidence->setReadOnly(true);
     incidence->resetDirtyFields();
