@@ -1,0 +1,297 @@
+// SPDX-FileCopyrightText: 2026 The daskel authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include <kcalcompat/kdatetime.h>
+#include <mkcal/calendarexporter.h>
+
+#include <KCalendarCore/Event>
+#include <KCalendarCore/Todo>
+
+#include <QRegularExpression>
+
+#include <algorithm>
+
+namespace mKCal
+{
+using KCalCore::Alarm;
+using KCalCore::Event;
+using KCalCore::Incidence;
+using KCalCore::Period;
+using KCalCore::Recurrence;
+using KCalCore::RecurrenceRule;
+using KCalCore::Todo;
+
+namespace
+{
+// RFC 5545 writes years with four digits; a later end comes from a DURATION without sense.
+constexpr int LastYear = 9999;
+constexpr int SecondsOfDay = 24 * 60 * 60;
+
+QDateTime dayStart(const QDate &date)
+{
+    return date.startOfDay(Qt::LocalTime);
+}
+
+bool isZoneUtc(const QDateTime &time)
+{
+    return time.timeSpec() == Qt::TimeZone && time.timeZone().id() == "UTC";
+}
+
+/// ICalFormat reads a time that ends in Z into a zone called "UTC".
+QDateTime plainUtc(const QDateTime &time)
+{
+    return isZoneUtc(time) ? time.toUTC() : time;
+}
+
+QList<QDateTime> plainUtc(QList<QDateTime> times)
+{
+    std::transform(times.begin(), times.end(), times.begin(),
+                   [](const QDateTime &time) { return plainUtc(time); });
+    return times;
+}
+
+/// The day that an instant means where a date belongs. Some writers put the beginning or end of the
+/// day in UTC, others their own midnight.
+QDate dateMeant(const QDateTime &time)
+{
+    const bool isInstant =
+        time.timeSpec() == Qt::UTC || time.timeSpec() == Qt::OffsetFromUTC || isZoneUtc(time);
+    const bool isEdgeOfDay = time.time() == QTime(0, 0) || time.time() == QTime(23, 59, 59);
+    return isInstant && !isEdgeOfDay ? time.toLocalTime().date() : time.date();
+}
+
+RecurrenceRule::List allRules(const Incidence::Ptr &incidence)
+{
+    return incidence->recurrence()->rRules() + incidence->recurrence()->exRules();
+}
+
+bool hasUntil(const RecurrenceRule *rule)
+{
+    return rule->duration() == 0 && rule->endDt().isValid();
+}
+
+/// The UNTIL of a rule that was just read. ICalFormat reads dates and floating times in the local
+/// zone; in a zoned series they are meant in its own, a date with the whole day.
+QDateTime untilAsMeant(const RecurrenceRule *rule, const Incidence::Ptr &incidence)
+{
+    static const QRegularExpression pattern(QStringLiteral("UNTIL=(\\d{8})(?:T(\\d{6}))?(Z?)"));
+    const auto match = pattern.match(rule->rrule());
+    const QDate date = QDate::fromString(match.captured(1), QStringLiteral("yyyyMMdd"));
+    const QTime time = QTime::fromString(match.captured(2), QStringLiteral("HHmmss"));
+    const bool isInstant = !match.captured(3).isEmpty();
+    if (incidence->allDay()) {
+        return dayStart(date.isValid() && !isInstant ? date : dateMeant(rule->endDt()));
+    }
+    if (!date.isValid() || isInstant) {
+        const bool isFloating = incidence->dtStart().timeSpec() == Qt::LocalTime;
+        return isFloating ? rule->endDt().toLocalTime() : plainUtc(rule->endDt());
+    }
+    const auto clock = KDateTime(incidence->dtStart()).timeSpec();
+    return KDateTime(date, time.isValid() ? time : QTime(23, 59, 59), clock).dateTime();
+}
+
+QList<int> withoutRepetition(const QList<int> &numbers)
+{
+    QList<int> result;
+    for (const int number : numbers) {
+        if (!result.contains(number)) {
+            result.append(number);
+        }
+    }
+    return result;
+}
+
+/// ICalFormat writes these numbers twice; a file that it wrote gives an occurrence several times.
+void removeRepetition(RecurrenceRule *rule)
+{
+    const QList<int> hours = withoutRepetition(rule->byHours());
+    const QList<int> minutes = withoutRepetition(rule->byMinutes());
+    const QList<int> seconds = withoutRepetition(rule->bySeconds());
+    if (hours != rule->byHours()) {
+        rule->setByHours(hours);
+    }
+    if (minutes != rule->byMinutes()) {
+        rule->setByMinutes(minutes);
+    }
+    if (seconds != rule->bySeconds()) {
+        rule->setBySeconds(seconds);
+    }
+}
+
+/// Excluded and added dates of an all-day series are dates, even where a file gives instants.
+void makeDates(Recurrence *recurrence)
+{
+    auto excluded = recurrence->exDates();
+    for (const QDateTime &time : recurrence->exDateTimes()) {
+        excluded.append(dateMeant(time));
+    }
+    auto added = recurrence->rDates();
+    for (const QDateTime &time : recurrence->rDateTimes()) {
+        if (time.isValid()) {
+            added.append(dateMeant(time));
+        }
+    }
+    recurrence->setExDateTimes({});
+    recurrence->setExDates(excluded);
+    recurrence->setRDateTimes({});
+    recurrence->setRDates(added);
+}
+
+/// Replaces each added date-time by what @p convert makes of it, with its end if it has one.
+template <typename Convert> void convertAddedTimes(Recurrence *recurrence, const Convert &convert)
+{
+    QList<QDateTime> times;
+    QList<Period> periods;
+    for (const QDateTime &time : recurrence->rDateTimes()) {
+        const Period period = recurrence->rDateTimePeriod(time);
+        if (!period.isValid()) {
+            times.append(convert(time, false));
+        } else if (period.hasDuration()) {
+            periods.append(Period(convert(period.start(), true), period.duration()));
+        } else {
+            periods.append(Period(convert(period.start(), true), convert(period.end(), true)));
+        }
+    }
+    recurrence->setRDateTimes(times);
+    for (const Period &period : qAsConst(periods)) {
+        recurrence->addRDateTimePeriod(period);
+    }
+}
+
+void readRecurrence(const Incidence::Ptr &incidence)
+{
+    for (RecurrenceRule *rule : allRules(incidence)) {
+        if (hasUntil(rule)) {
+            rule->setEndDt(untilAsMeant(rule, incidence));
+        }
+        removeRepetition(rule);
+        // The text says no more than the rule does now, and would not follow its changes.
+        rule->setRRule(QString());
+    }
+    Recurrence *recurrence = incidence->recurrence();
+    if (incidence->allDay()) {
+        makeDates(recurrence);
+        return;
+    }
+    const QDateTime start = incidence->dtStart();
+    const bool isZoned = start.timeSpec() == Qt::TimeZone && !isZoneUtc(start);
+    convertAddedTimes(recurrence, [&](const QDateTime &time, bool ofPeriod) {
+        // Periods are written in UTC, see toICalendarConvention().
+        return ofPeriod && isZoned && time.timeSpec() != Qt::LocalTime
+            ? time.toTimeZone(start.timeZone())
+            : plainUtc(time);
+    });
+    recurrence->setExDateTimes(plainUtc(recurrence->exDateTimes()));
+}
+
+void readEventEnd(const Event::Ptr &event)
+{
+    const QDateTime start = event->dtStart();
+    if (event->allDay()) {
+        qint64 days = 1 + start.date().daysTo(event->dtEnd().date());
+        if (event->hasDuration()) {
+            const auto duration = event->duration();
+            days = duration.isDaily()
+                ? duration.value()
+                : (qint64(duration.value()) + SecondsOfDay - 1) / SecondsOfDay;
+        }
+        const QDate end = start.date().addDays(std::max(days, qint64(1)));
+        event->setDuration(KCalCore::Duration());
+        event->setDtEnd(dayStart(end.year() <= LastYear ? end : start.date().addDays(1)));
+        return;
+    }
+    const QDateTime end = event->dtEnd();
+    if (!end.isValid() || end < start || end.date().year() > LastYear) {
+        event->setDuration(KCalCore::Duration());
+        event->setDtEnd(plainUtc(start));
+    } else if (event->hasEndDate()) {
+        event->setDtEnd(plainUtc(end));
+    }
+}
+
+/// A to-do's DURATION says when it is due (RFC 5545 section 3.6.2); our views look at that alone.
+void readTodo(const Todo::Ptr &todo)
+{
+    if (todo->hasDuration() && !todo->hasDueDate() && todo->hasStartDate() && !todo->recurs()) {
+        const QDateTime due = todo->duration().end(todo->dtStart());
+        todo->setDuration(KCalCore::Duration());
+        todo->setDtDue(due);
+    }
+    if (todo->hasDueDate()) {
+        const QDateTime due = todo->dtDue(true);
+        todo->setDtDue(todo->allDay() ? dayStart(due.date()) : plainUtc(due), true);
+    }
+    if (todo->isCompleted()) {
+        const QDateTime completed = todo->completed();
+        todo->setPercentComplete(100);
+        todo->setStatus(Incidence::StatusCompleted);
+        if (completed.isValid() && !todo->recurs()) {
+            todo->setCompleted(completed);
+        }
+    }
+}
+
+void readAlarms(const Incidence::Ptr &incidence)
+{
+    const Alarm::List alarms = incidence->alarms();
+    for (const Alarm::Ptr &alarm : alarms) {
+        // Alarm::enabled() knows it already.
+        alarm->removeCustomProperty("KCALCORE", "ENABLED");
+        if (alarm->hasTime() && isZoneUtc(alarm->time())) {
+            alarm->setTime(plainUtc(alarm->time()));
+        }
+    }
+}
+} // namespace
+
+Incidence::Ptr toICalendarConvention(const Incidence::Ptr &incidence)
+{
+    const Incidence::Ptr clone(incidence->clone());
+    const auto event = clone.dynamicCast<Event>();
+    if (event && event->allDay() && event->hasEndDate()) {
+        const QDate lastDay = event->dtEnd().date().addDays(-1);
+        event->setDtEnd(dayStart(std::max(lastDay, event->dtStart().date())));
+    }
+    if (!clone->recurs()) {
+        return clone;
+    }
+    if (clone->allDay()) {
+        // ICalFormat writes the date that it is at that moment in UTC.
+        for (RecurrenceRule *rule : allRules(clone)) {
+            if (hasUntil(rule)) {
+                rule->setEndDt(QDateTime(dateMeant(rule->endDt()), QTime(0, 0), Qt::UTC));
+            }
+        }
+    } else {
+        // ICalFormat leaves the zone of a period out.
+        convertAddedTimes(clone->recurrence(), [](const QDateTime &time, bool ofPeriod) {
+            return ofPeriod && time.timeSpec() != Qt::LocalTime ? time.toUTC() : time;
+        });
+    }
+    return clone;
+}
+
+void fromICalendarConvention(const Incidence::Ptr &incidence)
+{
+    const QDateTime lastModified = incidence->lastModified();
+    incidence->startUpdates();
+    if (incidence->dtStart().isValid()) {
+        const QDateTime start = incidence->dtStart();
+        incidence->setDtStart(incidence->allDay() ? dayStart(start.date()) : plainUtc(start));
+    }
+    if (incidence->hasRecurrenceId()) {
+        incidence->setRecurrenceId(plainUtc(incidence->recurrenceId()));
+    }
+    if (incidence->recurs()) {
+        readRecurrence(incidence);
+    }
+    if (const auto event = incidence.dynamicCast<Event>()) {
+        readEventEnd(event);
+    } else if (const auto todo = incidence.dynamicCast<Todo>()) {
+        readTodo(todo);
+    }
+    readAlarms(incidence);
+    incidence->endUpdates();
+    incidence->setLastModified(lastModified);
+}
+} // namespace mKCal

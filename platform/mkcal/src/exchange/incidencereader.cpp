@@ -1,0 +1,207 @@
+// SPDX-FileCopyrightText: 2026 The daskel authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "incidencereader.h"
+
+#include "contentline.h"
+#include "missingtimes.h"
+#include "textcarrier.h"
+
+#include <mkcal/calendarexporter.h>
+
+#include <KCalendarCore/Event>
+#include <KCalendarCore/Exceptions>
+#include <KCalendarCore/ICalFormat>
+#include <KCalendarCore/MemoryCalendar>
+
+#include <algorithm>
+
+namespace mKCal
+{
+using KCalCore::Exception;
+using KCalCore::Incidence;
+
+namespace
+{
+// Beyond some hundreds ICalFormat gets slower again.
+constexpr int BatchSize = 250;
+
+struct ExceptionText {
+    Exception::ErrorCode code;
+    const char *text;
+};
+constexpr ExceptionText ExceptionTexts[] = {
+    {Exception::ParseErrorIcal, "its lines are not iCalendar properties"},
+    {Exception::LibICalError, "its lines are not iCalendar properties"},
+    {Exception::ParseErrorUnableToParse, "its lines are not iCalendar properties"},
+    {Exception::ParseErrorNotIncidence, "it is no event, to-do or journal"},
+    {Exception::ParseErrorKcal, "it does not make sense as an event, to-do or journal"},
+};
+
+QString textOf(const Exception *exception)
+{
+    const auto *row = std::find_if(
+        std::begin(ExceptionTexts), std::end(ExceptionTexts),
+        [exception](const ExceptionText &it) { return exception && it.code == exception->code(); });
+    return row == std::end(ExceptionTexts) ? QStringLiteral("it cannot be read")
+                                           : QLatin1String(row->text);
+}
+
+QString quoted(const QByteArray &value)
+{
+    constexpr int longest = 40;
+    const QString text = QString::fromUtf8(value);
+    return text.size() <= longest ? text : text.left(longest) + QChar(0x2026);
+}
+
+/// Why an incidence that ICalFormat made is not what its component says; empty when it is.
+QString refusal(const CalendarComponent &component, const Incidence::Ptr &incidence)
+{
+    if (!component.recurrenceId.isEmpty() && !incidence->recurrenceId().isValid()) {
+        return QStringLiteral("its RECURRENCE-ID cannot be read: %1")
+            .arg(quoted(component.recurrenceId));
+    }
+    if (incidence->type() != KCalCore::IncidenceBase::TypeEvent || incidence->dtStart().isValid()) {
+        return QString();
+    }
+    const QByteArray start = ContentLine::find(component.text, "DTSTART");
+    return start.isEmpty() ? QStringLiteral("it has no start (DTSTART)")
+                           : QStringLiteral("its start cannot be read: %1").arg(quoted(start));
+}
+
+QStringList lossesOf(const CalendarComponent &component, const Incidence::Ptr &incidence)
+{
+    QStringList losses;
+    if (component.wasLatin1) {
+        losses += QStringLiteral("it is not valid UTF-8 and was taken for Latin-1");
+    }
+    if (!incidence->allDay() && incidence->dtStart().timeSpec() == Qt::LocalTime) {
+        const QByteArray start = ContentLine::find(component.text, "DTSTART");
+        const QByteArray zone = ContentLine::parameter(start, "TZID");
+        if (!zone.isEmpty()) {
+            losses += QStringLiteral("its time zone is not known, its times are taken as local: %1")
+                          .arg(quoted(zone));
+        }
+    }
+    if (component.text.contains("RRULE") && incidence->recurrence()->rRules().isEmpty()) {
+        const QByteArray rule = ContentLine::find(component.text, "RRULE");
+        losses += QStringLiteral("it does not repeat, its rule cannot be read: %1")
+                      .arg(quoted(ContentLine::value(rule)));
+    }
+    if (component.text.contains("RSCALE=") && !component.text.contains("RSCALE=GREGORIAN")) {
+        losses += QStringLiteral("it repeats by the Gregorian calendar, not by its own");
+    }
+    return losses;
+}
+} // namespace
+
+void IncidenceReader::add(const CalendarComponent &component, TimeZoneTexts &timeZones)
+{
+    Entry entry;
+    entry.component = component;
+    QByteArray &text = entry.component.text;
+    entry.timeZones = timeZones.translate(&text);
+    if (component.hasCarriedProperties) {
+        TextCarrier::beforeReading(&text);
+    }
+    // At the end, where they prevail over properties of these names that are there already.
+    const int end = text.lastIndexOf("END:");
+    QByteArray identity;
+    if (component.uid.isEmpty()) {
+        identity = "UID:" + component.stableUid() + "\r\n";
+    }
+    identity += TextCarrier::indexProperty + (':' + QByteArray::number(m_batch.size())) + "\r\n";
+    text.insert(end, identity);
+
+    for (auto it = entry.timeZones.cbegin(); it != entry.timeZones.cend(); ++it) {
+        m_timeZonesDiffer |= m_timeZones.value(it.key(), it.value()) != it.value();
+        m_timeZones.insert(it.key(), it.value());
+    }
+    m_batch.append(entry);
+}
+
+bool IncidenceReader::isFull() const
+{
+    return m_batch.size() >= BatchSize;
+}
+
+QVector<IncidenceReader::Result> IncidenceReader::take()
+{
+    QVector<Result> results(m_batch.size());
+    QVector<Incidence::Ptr> incidences;
+    if (!m_timeZonesDiffer) {
+        incidences = parse(m_batch.cbegin(), m_batch.cend(), nullptr);
+    }
+    const bool isComplete = !incidences.isEmpty() && !incidences.contains(nullptr);
+    for (int i = 0; i < m_batch.size(); ++i) {
+        Result &result = results[i];
+        result.component = m_batch.at(i).component;
+        if (isComplete) {
+            result.incidence = incidences.at(i);
+        } else {
+            const Entry *entry = m_batch.cbegin() + i;
+            result.incidence = parse(entry, entry + 1, &result.reason).constFirst();
+        }
+        finish(&result);
+    }
+    m_batch.clear();
+    m_timeZones.clear();
+    m_timeZonesDiffer = false;
+    return results;
+}
+
+QByteArray IncidenceReader::calendarText(const Entry *begin, const Entry *end)
+{
+    QByteArray components;
+    QMap<QByteArray, QByteArray> timeZones;
+    for (const Entry *entry = begin; entry != end; ++entry) {
+        timeZones.insert(entry->timeZones);
+        components += entry->component.text;
+    }
+    QByteArray text = "BEGIN:VCALENDAR\r\nVERSION:2.0\r\n";
+    for (const QByteArray &timeZone : qAsConst(timeZones)) {
+        text += timeZone;
+    }
+    return text + components + "END:VCALENDAR\r\n";
+}
+
+/// One incidence, null where there is none, for each entry. @param reason (may be null) why the
+/// first one is null.
+QVector<Incidence::Ptr> IncidenceReader::parse(const Entry *begin, const Entry *end,
+                                               QString *reason)
+{
+    const KCalCore::MemoryCalendar::Ptr scratch(
+        new KCalCore::MemoryCalendar(QTimeZone::systemTimeZone()));
+    KCalCore::ICalFormat format;
+    QVector<Incidence::Ptr> incidences(int(end - begin));
+    const bool isRead = format.fromRawString(scratch, calendarText(begin, end));
+    const Incidence::List read = isRead ? scratch->rawIncidences() : Incidence::List();
+    // From here on the incidences have no calendar that would follow their changes.
+    scratch->close();
+    for (const Incidence::Ptr &incidence : read) {
+        const int index = incidence->nonKDECustomProperty(TextCarrier::indexProperty).toInt();
+        incidences[incidences.size() == 1 ? 0 : index] = incidence;
+    }
+    if (reason && !incidences.constFirst()) {
+        *reason = textOf(format.exception());
+    }
+    return incidences;
+}
+
+/// Brings what was read into our convention, and sees what is missing.
+void IncidenceReader::finish(Result *result)
+{
+    if (!result->incidence) {
+        return;
+    }
+    readMissingTimes(result->component.text, result->incidence);
+    result->reason = refusal(result->component, result->incidence);
+    if (!result->reason.isEmpty()) {
+        result->incidence.clear();
+        return;
+    }
+    TextCarrier::afterReading(result->incidence);
+    fromICalendarConvention(result->incidence);
+    result->losses = lossesOf(result->component, result->incidence);
+}
+} // namespace mKCal
