@@ -3,9 +3,9 @@
 
 #include "agenda.h"
 
+#include "console.h"
 #include "database.h"
-
-#include <daskel/db_instance.h>
+#include "incidencejson.h"
 
 #include <KCalendarCore/Todo>
 
@@ -23,23 +23,60 @@ bool isListed(const KCalCore::Incidence::Ptr &incidence)
         || incidence->type() == KCalCore::Incidence::TypeTodo;
 }
 
-KDateTime recurrenceIdOf(const KCalCore::Incidence::Ptr &incidence, QDateTime occurrenceStart)
+/// The date-time that an occurrence is listed by: a to-do's is when it is due.
+QDateTime listedTime(const KCalCore::Incidence::Ptr &incidence)
+{
+    const auto todo = incidence.dynamicCast<KCalCore::Todo>();
+    if (!todo) {
+        return incidence->dtStart();
+    }
+    return todo->hasDueDate() ? todo->dtDue(true) : todo->dtStart(true);
+}
+
+/// The start that the rules give the occurrence that is listed by listedTime().
+QDateTime ruledTime(const KCalCore::Incidence::Ptr &incidence)
 {
     if (incidence->hasRecurrenceId()) {
-        return KDateTime(incidence->recurrenceId());
+        return incidence->recurrenceId();
     }
-    if (!incidence->recurs()) {
-        return {};
-    }
-    // A to-do is listed when it is due, but its occurrence is named by when it starts.
     const auto todo = incidence.dynamicCast<KCalCore::Todo>();
-    if (todo && todo->hasStartDate() && todo->hasDueDate()) {
-        occurrenceStart = occurrenceStart.addSecs(todo->dtDue(true).secsTo(todo->dtStart(true)));
+    return todo && todo->hasStartDate() ? todo->dtStart(true) : listedTime(incidence);
+}
+
+QDateTime inZoneOf(const QDateTime &moment, const QDateTime &other)
+{
+    // Clock time is that of whoever reads the agenda.
+    return other.timeSpec() == Qt::LocalTime ? moment : moment.toTimeZone(other.timeZone());
+}
+
+/// By what the series names the occurrence that starts at @p occurrenceStart: RFC 5545, 3.8.4.4.
+KDateTime occurrenceIdentifier(const ExtendedCalendar &calendar,
+                               const KCalCore::Incidence::Ptr &incidence,
+                               const QDateTime &occurrenceStart)
+{
+    const bool goesOn =
+        incidence->recurs() || (incidence->hasRecurrenceId() && incidence->thisAndFuture());
+    if (!goesOn) {
+        return recurrenceIdentifier(calendar, incidence);
     }
-    if (incidence->allDay()) {
-        return KDateTime(occurrenceStart.date(), KDateTime::Spec::ClockTime());
+    // To-dos are listed when they are due and named by when they start, exceptions for this and
+    // the future may have moved: by so much of the wall clock.
+    const QDateTime listed = listedTime(incidence);
+    const QDateTime ruled = ruledTime(incidence);
+    const auto onWall = [](const QDateTime &time) {
+        return QDateTime(time.date(), time.time(), Qt::UTC);
+    };
+    const qint64 shift = onWall(listed).secsTo(onWall(ruled));
+    QDateTime identifier =
+        incidence->allDay() ? occurrenceStart : inZoneOf(occurrenceStart, listed);
+    if (shift != 0) {
+        const QDateTime wall = onWall(identifier).addSecs(shift);
+        identifier =
+            QDateTime(wall.date(), wall.time(),
+                      ruled.timeSpec() == Qt::LocalTime ? identifier.timeZone() : ruled.timeZone());
     }
-    return KDateTime(occurrenceStart).toTimeSpec(KDateTime(incidence->dtStart()).timeSpec());
+    return incidence->allDay() ? KDateTime(identifier.date(), KDateTime::Spec::ClockTime())
+                               : KDateTime(identifier);
 }
 
 /// The pieces of one occurrence, one for each day of the window.
@@ -50,9 +87,10 @@ void appendPieces(const ExtendedCalendar &calendar,
                                                 MaxOccurrences, true);
     const auto &incidence = occurrence.second;
     for (const auto &piece : pieces) {
-        agenda->entries.append({incidence, calendar.notebook(incidence), piece.first.dtStart,
-                                piece.first.dtEnd, occurrence.first.dtStart, occurrence.first.dtEnd,
-                                recurrenceIdOf(incidence, occurrence.first.dtStart)});
+        agenda->entries.append(
+            {incidence, calendar.notebook(incidence), piece.first.dtStart, piece.first.dtEnd,
+             occurrence.first.dtStart, occurrence.first.dtEnd,
+             occurrenceIdentifier(calendar, incidence, occurrence.first.dtStart)});
     }
 }
 
@@ -82,7 +120,7 @@ ExtendedCalendar::ExpandedIncidenceList expand(const ExtendedCalendar &calendar,
         QHash<KCalCore::Incidence::Ptr, int> counts;
         for (const auto &occurrence : occurrences) {
             if (++counts[occurrence.second] == MaxOccurrences) {
-                agenda->cutShort.append(occurrence.second->uid());
+                agenda->cutShort.append(titleText(occurrence.second->summary()));
             }
         }
     }
@@ -107,12 +145,12 @@ Agenda readAgenda(const Database &database, const NotebookFilter &filter, const 
                   const QDate &to)
 {
     Agenda agenda{from, to, {}, {}, {}};
-    DbInstance::instance()->load(from, to);
-    if (!database.storage()->loadRecurringIncidences(from, to)) {
-        agenda.error = database.storage()->errorMessage();
+    const auto calendar = database.calendar();
+    const auto storage = database.storage();
+    if (!storage->load(from, to) || !storage->loadRecurringIncidences(from, to)) {
+        agenda.error = storage->errorMessage();
         return agenda;
     }
-    const auto calendar = database.calendar();
     KCalCore::Incidence::List listed;
     const auto incidences = calendar->incidences(from, to);
     for (const auto &incidence : incidences) {

@@ -33,7 +33,7 @@ struct Agenda {
     QDate from;
     QDate to; ///< part of it
     QVector<AgendaEntry> entries;
-    QStringList cutShort; ///< UIDs of what repeats too often to be listed whole
+    QStringList cutShort; ///< titles of what repeats too often to be listed whole
     QString error; ///< why the calendar could not be read; empty when it could
 };
 

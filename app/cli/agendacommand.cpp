@@ -8,6 +8,7 @@
 #include "incidencejson.h"
 
 #include <kcalcompat/clock.h>
+#include <kcalcompat/ksystemtimezones.h>
 
 #include <QCommandLineParser>
 #include <QJsonArray>
@@ -46,7 +47,9 @@ QPair<QDate, QDate> readRange(const QCommandLineParser &parser, const QTimeZone 
     const auto readDate = [&](const QString &option, QDate *date) {
         if (parser.isSet(option)) {
             *date = QDate::fromString(parser.value(option), Qt::ISODate);
-            if (!date->isValid()) {
+            // Qt reads past separators and tails that are none.
+            if (date->toString(Qt::ISODate) != parser.value(option)) {
+                *date = QDate();
                 console.message(QStringLiteral("--%1: '%2' is not a date such as 2026-05-01")
                                     .arg(option, parser.value(option)));
             }
@@ -87,19 +90,14 @@ QPair<QDate, QDate> readRange(const QCommandLineParser &parser, const QTimeZone 
 
 ExitCode run(const QCommandLineParser &parser, Console &console)
 {
-    QTimeZone zone = QTimeZone::systemTimeZone();
+    QTimeZone zone = KSystemTimeZones::local();
     if (parser.isSet(ZoneOption)) {
-        zone = QTimeZone(parser.value(ZoneOption).toUtf8());
+        zone = KSystemTimeZones::zone(parser.value(ZoneOption).toUtf8());
         if (!zone.isValid()) {
             console.message(
                 QStringLiteral("--zone: there is no time zone '%1'").arg(parser.value(ZoneOption)));
             return WrongUsage;
         }
-    }
-    if (!parser.positionalArguments().isEmpty()) {
-        console.message(QStringLiteral("'%1' is not understood here")
-                            .arg(parser.positionalArguments().first()));
-        return WrongUsage;
     }
     const auto range = readRange(parser, zone, console);
     if (!range.first.isValid()) {
@@ -127,11 +125,12 @@ ExitCode run(const QCommandLineParser &parser, Console &console)
     } else {
         printAgenda(agenda, database, console);
     }
-    for (const QString &uid : agenda.cutShort) {
-        console.message(QStringLiteral("'%1' repeats too often to be listed whole").arg(uid));
+    for (const QString &title : agenda.cutShort) {
+        console.message(QStringLiteral("'%1' repeats too often to be listed whole").arg(title));
     }
     return agenda.cutShort.isEmpty() ? Done : DoneWithSkipped;
 }
 } // namespace
 
-const Command agendaCommand = {"agenda", "Lists events and due to-dos day by day.", declare, run};
+const Command agendaCommand = {
+    "agenda", "Lists events and due to-dos day by day.", {0, 0, ""}, declare, run};

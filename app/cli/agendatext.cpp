@@ -47,7 +47,8 @@ QString pieceText(const AgendaEntry &entry)
 /// The time where the event takes place, when that is another than where the agenda is read.
 QString placeTimeText(const AgendaEntry &entry)
 {
-    const QDateTime own = entry.incidence->dtStart();
+    const auto todo = entry.incidence.dynamicCast<KCalCore::Todo>();
+    const QDateTime own = todo ? todo->dtDue(true) : entry.incidence->dtStart();
     if (entry.incidence->allDay() || own.timeSpec() != Qt::TimeZone
         || entry.start != entry.occurrenceStart) {
         return {};
@@ -59,17 +60,16 @@ QString placeTimeText(const AgendaEntry &entry)
     return QStringLiteral(" [%1 %2]").arg(timeText(there), QString::fromUtf8(own.timeZone().id()));
 }
 
-QString titleText(const KCalCore::Incidence::Ptr &incidence)
+QString entryTitle(const KCalCore::Incidence::Ptr &incidence)
 {
-    QString title = incidence->summary().simplified();
-    if (title.isEmpty()) {
-        title = QStringLiteral("(no title)");
-    }
+    QString title = titleText(incidence->summary());
     if (const auto todo = incidence.dynamicCast<KCalCore::Todo>()) {
         title.prepend(todo->isCompleted() ? QStringLiteral("[x] ") : QStringLiteral("[ ] "));
     }
     if (incidence->status() == KCalCore::Incidence::StatusTentative) {
         title += QStringLiteral(" (tentative)");
+    } else if (incidence->status() == KCalCore::Incidence::StatusCanceled) {
+        title += QStringLiteral(" (cancelled)");
     }
     return title;
 }
@@ -77,16 +77,16 @@ QString titleText(const KCalCore::Incidence::Ptr &incidence)
 void printEntry(const AgendaEntry &entry, const QString &notebookName, QTextStream &out)
 {
     out << QStringLiteral("  ") << pieceText(entry).leftJustified(TimeWidth)
-        << titleText(entry.incidence);
+        << entryTitle(entry.incidence);
     if (entry.dayCount() > 1) {
         out << QStringLiteral(" (day %1 of %2)").arg(entry.dayNumber()).arg(entry.dayCount());
     }
     out << placeTimeText(entry);
-    const QString location = entry.incidence->location().simplified();
+    const QString location = printable(entry.incidence->location().simplified());
     if (!location.isEmpty()) {
         out << QStringLiteral(", ") << location;
     }
-    out << QStringLiteral("  · ") << notebookName << '\n';
+    out << QStringLiteral("  · ") << printable(notebookName) << '\n';
 }
 } // namespace
 
@@ -109,5 +109,4 @@ void printAgenda(const Agenda &agenda, const Database &database, Console &consol
         out << QStringLiteral("Nothing from %1 to %2.\n")
                    .arg(agenda.from.toString(Qt::ISODate), agenda.to.toString(Qt::ISODate));
     }
-    out.flush();
 }

@@ -35,7 +35,6 @@ void print(const mKCal::CheckReport &report, QTextStream &out)
     line("deleted, kept", report.deleted);
     line("overwritten, kept", report.overwritten);
     line("planned reminders", report.reminders);
-    out.flush();
 }
 
 ExitCode run(const QCommandLineParser &parser, Console &console)
@@ -58,15 +57,16 @@ ExitCode run(const QCommandLineParser &parser, Console &console)
     }
     print(report, console.out());
     if (repairs) {
-        console.out() << "written to " << parser.value(RepairOption) << Qt::endl;
+        console.out() << "written to " << parser.value(RepairOption) << '\n';
         return report.problems.isEmpty() ? Done : DoneWithSkipped;
     }
     console.out() << (report.intact ? "The database is in order."
                                     : "The database is damaged: 'daskel check --repair FILE' "
                                       "saves what can be saved into a new file.")
-                  << Qt::endl;
+                  << '\n';
     return report.intact ? Done : Failed;
 }
 } // namespace
 
-const Command checkCommand = {"check", "Looks whether the database is in order.", declare, run};
+const Command checkCommand = {
+    "check", "Looks whether the database is in order.", {0, 0, ""}, declare, run};

@@ -4,6 +4,8 @@
 #ifndef DASKEL_CLI_COMMAND_H
 #define DASKEL_CLI_COMMAND_H
 
+#include <limits>
+
 class Console;
 class QCommandLineParser;
 
@@ -15,10 +17,19 @@ enum ExitCode {
     DoneWithSkipped = 3, ///< done, but some items could not be taken along
 };
 
+/// How many words a command takes beside its options.
+struct ArgumentCount {
+    static constexpr int Any = std::numeric_limits<int>::max();
+    int least;
+    int most;
+    const char *missing; ///< what is said when there are too few
+};
+
 /// One subcommand: how it is called and what it does.
 struct Command {
     const char *name;
     const char *summary;
+    ArgumentCount arguments;
     void (*declare)(QCommandLineParser &parser);
     ExitCode (*run)(const QCommandLineParser &parser, Console &console);
 };

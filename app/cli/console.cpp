@@ -7,9 +7,10 @@
 #include <unistd.h>
 
 Console::Console(const QString &commandName)
-    : m_out(stdout), m_err(stderr), m_commandName(commandName),
-      m_isTerminal(isatty(STDERR_FILENO) == 1)
+    : m_err(stderr), m_commandName(commandName), m_isTerminal(isatty(STDERR_FILENO) == 1)
 {
+    m_outFile.open(stdout, QIODevice::WriteOnly);
+    m_out.setDevice(&m_outFile);
     m_out.setCodec("UTF-8");
     m_err.setCodec("UTF-8");
 }
@@ -27,13 +28,14 @@ void Console::message(const QString &text)
     if (!m_commandName.isEmpty()) {
         m_err << m_commandName << QLatin1String(": ");
     }
-    m_err << text << Qt::endl;
+    m_err << printable(text) << Qt::endl;
 }
 
 void Console::progress(qint64 done, qint64 total)
 {
     constexpr int Width = 40;
-    const int percent = total > 0 ? static_cast<int>(done * 100 / total) : 100;
+    const int percent =
+        total > 0 ? static_cast<int>(qBound<qint64>(0, done * 100 / total, 100)) : 100;
     if (!m_isTerminal || percent == m_percent) {
         return;
     }
@@ -50,4 +52,30 @@ void Console::endProgress()
         m_err << QLatin1String("\r\033[K") << Qt::flush;
         m_percent = -1;
     }
+}
+
+bool Console::finish()
+{
+    m_out.flush();
+    if (m_out.status() == QTextStream::Ok) {
+        return true;
+    }
+    message(QStringLiteral("cannot write to standard output: %1").arg(m_outFile.errorString()));
+    return false;
+}
+
+QString printable(QString text)
+{
+    for (QChar &character : text) {
+        if (character.category() == QChar::Other_Control) {
+            character = QChar::ReplacementCharacter;
+        }
+    }
+    return text;
+}
+
+QString titleText(const QString &summary)
+{
+    const QString title = summary.simplified();
+    return title.isEmpty() ? QStringLiteral("(no title)") : printable(title);
 }

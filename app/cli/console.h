@@ -4,6 +4,7 @@
 #ifndef DASKEL_CLI_CONSOLE_H
 #define DASKEL_CLI_CONSOLE_H
 
+#include <QFile>
 #include <QJsonDocument>
 #include <QString>
 #include <QTextStream>
@@ -13,6 +14,7 @@ class Console
 {
 public:
     explicit Console(const QString &commandName);
+    Q_DISABLE_COPY(Console)
 
     QTextStream &out() { return m_out; }
     void json(const QJsonDocument &document);
@@ -24,12 +26,22 @@ public:
     /// Takes the bar away.
     void endProgress();
 
+    /// Writes what is left; false after a message when the output took less than all.
+    bool finish();
+
 private:
+    QFile m_outFile;
     QTextStream m_out;
     QTextStream m_err;
     QString m_commandName;
     bool m_isTerminal;
     int m_percent = -1;
 };
+
+/// @p text with its control characters made visible: it comes from strangers' calendars, and a
+/// terminal would obey it.
+QString printable(QString text);
+/// The same on one line; "(no title)" for an empty one.
+QString titleText(const QString &summary);
 
 #endif

@@ -8,13 +8,27 @@
 #include <daskel/db_instance.h>
 
 #include <QCommandLineParser>
+#include <QFileInfo>
+
+namespace
+{
+/// Why the database could not be opened; a folder that is none is told more plainly than the
+/// storage can.
+QString openError(const DbInstance &db)
+{
+    const QFileInfo folder(QFileInfo(db.databaseFileName()).absolutePath());
+    if (folder.isDir()) {
+        return QStringLiteral("cannot open the calendar: %1").arg(db.storage()->errorMessage());
+    }
+    return QStringLiteral("cannot make the folder '%1' for the calendar").arg(folder.filePath());
+}
+} // namespace
 
 Database::Database(Console &console) : m_console(console)
 {
     DbInstance *db = DbInstance::instance();
     if (!db->didDatabaseOpenSucceed()) {
-        m_console.message(
-            QStringLiteral("cannot open the calendar: %1").arg(storage()->errorMessage()));
+        m_console.message(openError(*db));
         return;
     }
     db->setUser(DbInstance::NoUser);
@@ -24,7 +38,7 @@ Database::Database(Console &console) : m_console(console)
 
 Database::~Database()
 {
-    DbInstance::instance()->destroy();
+    DbInstance::destroy();
 }
 
 mKCal::ExtendedCalendar::Ptr Database::calendar() const
@@ -51,11 +65,17 @@ mKCal::Notebook::Ptr Database::findNotebook(const QString &uidOrName) const
     if (named.size() == 1) {
         return named.first();
     }
-    m_console.message(named.isEmpty()
-                          ? QStringLiteral("there is no notebook '%1'").arg(uidOrName)
-                          : QStringLiteral("there are %1 notebooks named '%2': give the UID")
-                                .arg(named.size())
-                                .arg(uidOrName));
+    if (named.isEmpty()) {
+        m_console.message(QStringLiteral("there is no notebook '%1'").arg(uidOrName));
+        return {};
+    }
+    QStringList uids;
+    for (const auto &notebook : qAsConst(named)) {
+        uids.append(notebook->uid());
+    }
+    m_console.message(
+        QStringLiteral("%1 notebooks are named '%2', give the UID of one: %3")
+            .arg(QString::number(named.size()), uidOrName, uids.join(QStringLiteral(", "))));
     return {};
 }
 

@@ -9,6 +9,7 @@
 
 #include <QCommandLineParser>
 #include <QFile>
+#include <QFileInfo>
 #include <QSaveFile>
 
 namespace
@@ -54,55 +55,72 @@ bool collect(const Database &database, const QCommandLineParser &parser,
     return true;
 }
 
-bool writeFile(const KCalCore::Incidence::List &incidences, const QString &fileName,
-               Console &console)
+bool write(const KCalCore::Incidence::List &incidences, QFileDevice *file, QString *error)
 {
-    QSaveFile file(fileName);
     mKCal::CalendarExporter exporter;
-    if (!file.open(QIODevice::WriteOnly)) {
-        console.message(QStringLiteral("cannot write '%1': %2").arg(fileName, file.errorString()));
-        return false;
+    if (!exporter.write(incidences, file)) {
+        *error = exporter.errorMessage();
+    } else if (!file->flush()) {
+        *error = file->errorString();
     }
-    if (!exporter.write(incidences, &file)) {
-        console.message(
-            QStringLiteral("cannot write '%1': %2").arg(fileName, exporter.errorMessage()));
-        return false;
-    }
-    if (!file.commit()) {
-        console.message(QStringLiteral("cannot write '%1': %2").arg(fileName, file.errorString()));
-        return false;
-    }
-    return true;
+    return error->isEmpty();
 }
 
-bool writeOut(const KCalCore::Incidence::List &incidences, Console &console)
+bool writeFile(const KCalCore::Incidence::List &incidences, const QString &fileName, QString *error)
 {
-    QFile file;
-    mKCal::CalendarExporter exporter;
-    if (!file.open(stdout, QIODevice::WriteOnly) || !exporter.write(incidences, &file)
-        || !file.flush()) {
-        console.message(QStringLiteral("cannot write: %1").arg(exporter.errorMessage()));
+    // A device or a pipe is written to; a file is replaced by a whole one, or left as it was.
+    const QFileInfo target(fileName);
+    if (target.isDir()) {
+        *error = QStringLiteral("it is a folder");
         return false;
     }
-    return true;
+    if (target.exists() && !target.isFile()) {
+        QFile device(fileName);
+        if (device.open(QIODevice::WriteOnly)) {
+            return write(incidences, &device, error);
+        }
+        *error = device.errorString();
+        return false;
+    }
+    QSaveFile file(fileName);
+    if (file.open(QIODevice::WriteOnly) && write(incidences, &file, error) && file.commit()) {
+        return true;
+    }
+    if (error->isEmpty()) {
+        *error = file.errorString();
+    }
+    return false;
+}
+
+bool writeOut(const KCalCore::Incidence::List &incidences, QString *error)
+{
+    QFile file;
+    if (file.open(stdout, QIODevice::WriteOnly)) {
+        return write(incidences, &file, error);
+    }
+    *error = file.errorString();
+    return false;
 }
 
 ExitCode run(const QCommandLineParser &parser, Console &console)
 {
-    const QStringList files = parser.positionalArguments();
-    if (files.size() > 1) {
-        console.message(QStringLiteral("only one file can be written"));
-        return WrongUsage;
-    }
     const Database database(console);
     KCalCore::Incidence::List incidences;
     if (!database.isOpen() || !collect(database, parser, &incidences, console)) {
         return Failed;
     }
-    const bool written = files.isEmpty() ? writeOut(incidences, console)
-                                         : writeFile(incidences, files.first(), console);
-    return written ? Done : Failed;
+    const QString fileName = parser.positionalArguments().value(0);
+    QString error;
+    if (fileName.isNull() ? writeOut(incidences, &error)
+                          : writeFile(incidences, fileName, &error)) {
+        return Done;
+    }
+    console.message(fileName.isNull()
+                        ? QStringLiteral("cannot write to standard output: %1").arg(error)
+                        : QStringLiteral("cannot write '%1': %2").arg(fileName, error));
+    return Failed;
 }
 } // namespace
 
-const Command exportCommand = {"export", "Writes the calendar as an iCalendar file.", declare, run};
+const Command exportCommand = {
+    "export", "Writes the calendar as an iCalendar file.", {0, 1, ""}, declare, run};

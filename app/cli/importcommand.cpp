@@ -38,10 +38,6 @@ void tellSkipped(const mKCal::ImportReport &report, Console &console)
 
 ExitCode run(const QCommandLineParser &parser, Console &console)
 {
-    if (parser.positionalArguments().isEmpty()) {
-        console.message(QStringLiteral("no file given"));
-        return WrongUsage;
-    }
     const Database database(console);
     if (!database.isOpen()) {
         return Failed;
@@ -76,4 +72,8 @@ ExitCode run(const QCommandLineParser &parser, Console &console)
 }
 } // namespace
 
-const Command importCommand = {"import", "Takes iCalendar files into the calendar.", declare, run};
+const Command importCommand = {"import",
+                               "Takes iCalendar files into the calendar.",
+                               {1, ArgumentCount::Any, "no file given"},
+                               declare,
+                               run};

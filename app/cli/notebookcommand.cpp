@@ -10,6 +10,8 @@
 #include <QCommandLineParser>
 #include <QRegularExpression>
 
+#include <algorithm>
+
 using mKCal::Notebook;
 
 namespace
@@ -23,7 +25,8 @@ const QString UidOption = QStringLiteral("uid");
 
 void declare(QCommandLineParser &parser)
 {
-    parser.addOption({NameOption, QStringLiteral("New name."), QStringLiteral("NAME")});
+    parser.addOption(
+        {NameOption, QStringLiteral("New name of an edited notebook."), QStringLiteral("NAME")});
     parser.addOption(
         {ColorOption, QStringLiteral("Colour, such as #63B33B."), QStringLiteral("COLOR")});
     parser.addOption({DescriptionOption, QStringLiteral("Description."), QStringLiteral("TEXT")});
@@ -35,7 +38,7 @@ void declare(QCommandLineParser &parser)
                       QStringLiteral("UID")});
     parser.addPositionalArgument(
         QStringLiteral("action"),
-        QStringLiteral("add NAME, or edit, delete or default with a notebook's UID or name."),
+        QStringLiteral("add NAME, or edit, delete or default with a notebook's name or UID."),
         QStringLiteral("add|edit|delete|default"));
     parser.addPositionalArgument(QStringLiteral("notebook"), QStringLiteral("Its name or UID."),
                                  QStringLiteral("NOTEBOOK"));
@@ -95,54 +98,109 @@ ExitCode add(const QCommandLineParser &parser, const QString &name, const Databa
     if (!NotebookManager::instance()->addNotebook(notebook)) {
         return finish(false, database, console);
     }
-    console.out() << notebook->uid() << Qt::endl;
+    console.out() << notebook->uid() << '\n';
     return Done;
 }
 
-ExitCode edit(const QCommandLineParser &parser, const Notebook &stored, const Database &database,
+ExitCode edit(const QCommandLineParser &parser, const QString &uidOrName, const Database &database,
               Console &console)
 {
-    const auto changed = Notebook::Ptr::create(stored);
+    const auto notebook = database.findNotebook(uidOrName);
+    if (!notebook) {
+        return Failed;
+    }
+    const auto changed = Notebook::Ptr::create(*notebook);
     if (!applyOptions(parser, changed.data(), console)) {
         return WrongUsage;
     }
     return finish(NotebookManager::instance()->updateNotebook(changed), database, console);
 }
 
+ExitCode remove(const QCommandLineParser & /*parser*/, const QString &uidOrName,
+                const Database &database, Console &console)
+{
+    const auto notebook = database.findNotebook(uidOrName);
+    return notebook
+        ? finish(NotebookManager::instance()->deleteNotebook(notebook), database, console)
+        : Failed;
+}
+
+ExitCode makeDefault(const QCommandLineParser & /*parser*/, const QString &uidOrName,
+                     const Database &database, Console &console)
+{
+    const auto notebook = database.findNotebook(uidOrName);
+    return notebook ? finish(database.storage()->setDefaultNotebook(notebook), database, console)
+                    : Failed;
+}
+
+/// What can be done with a notebook, and which options go with it.
+struct Action {
+    QString name;
+    QStringList options;
+    ExitCode (*run)(const QCommandLineParser &parser, const QString &notebook,
+                    const Database &database, Console &console);
+};
+
+const QVector<Action> Actions = {
+    {QStringLiteral("add"),
+     {UidOption, ColorOption, DescriptionOption, VisibleOption, ReadOnlyOption},
+     add},
+    {QStringLiteral("edit"),
+     {NameOption, ColorOption, DescriptionOption, VisibleOption, ReadOnlyOption},
+     edit},
+    {QStringLiteral("delete"), {}, remove},
+    {QStringLiteral("default"), {}, makeDefault},
+};
+
+/// Why the options do not fit the action; empty when they do.
+QString misfit(const QCommandLineParser &parser, const Action &action)
+{
+    for (const QString &option :
+         {NameOption, ColorOption, DescriptionOption, VisibleOption, ReadOnlyOption, UidOption}) {
+        if (parser.isSet(option) && !action.options.contains(option)) {
+            return QStringLiteral("%1: --%2 does not belong here").arg(action.name, option);
+        }
+    }
+    for (const QString &option : {NameOption, UidOption}) {
+        if (parser.isSet(option) && parser.value(option).trimmed().isEmpty()) {
+            return QStringLiteral("%1: --%2 is empty").arg(action.name, option);
+        }
+    }
+    const bool changesSomething =
+        std::any_of(action.options.begin(), action.options.end(),
+                    [&parser](const QString &option) { return parser.isSet(option); });
+    if (action.run == edit && !changesSomething) {
+        return QStringLiteral("edit: nothing to change; give one of --%1")
+            .arg(action.options.join(QStringLiteral(", --")));
+    }
+    return {};
+}
+
 ExitCode run(const QCommandLineParser &parser, Console &console)
 {
-    const QStringList arguments = parser.positionalArguments();
-    const QString action = arguments.value(0);
-    static const QStringList Actions = {QStringLiteral("add"), QStringLiteral("edit"),
-                                        QStringLiteral("delete"), QStringLiteral("default")};
-    if (!Actions.contains(action)) {
-        console.message(QStringLiteral("say what to do: add, edit, delete or default"));
+    const QString wanted = parser.positionalArguments().at(0);
+    const QString notebook = parser.positionalArguments().at(1).trimmed();
+    const auto action = std::find_if(Actions.begin(), Actions.end(),
+                                     [&wanted](const Action &each) { return each.name == wanted; });
+    if (action == Actions.end()) {
+        console.message(
+            QStringLiteral("'%1' is none of add, edit, delete and default").arg(wanted));
         return WrongUsage;
     }
-    if (arguments.size() != 2 || arguments.at(1).isEmpty()) {
-        console.message(QStringLiteral("%1: name one notebook").arg(action));
+    const QString reason = notebook.isEmpty()
+        ? QStringLiteral("%1: the notebook's name is empty").arg(wanted)
+        : misfit(parser, *action);
+    if (!reason.isEmpty()) {
+        console.message(reason);
         return WrongUsage;
     }
     const Database database(console);
-    if (!database.isOpen()) {
-        return Failed;
-    }
-    if (action == QLatin1String("add")) {
-        return add(parser, arguments.at(1), database, console);
-    }
-    const auto notebook = database.findNotebook(arguments.at(1));
-    if (!notebook) {
-        return Failed;
-    }
-    if (action == QLatin1String("edit")) {
-        return edit(parser, *notebook, database, console);
-    }
-    const bool accepted = action == QLatin1String("delete")
-        ? NotebookManager::instance()->deleteNotebook(notebook)
-        : database.storage()->setDefaultNotebook(notebook);
-    return finish(accepted, database, console);
+    return database.isOpen() ? action->run(parser, notebook, database, console) : Failed;
 }
 } // namespace
 
-const Command notebookCommand = {
-    "notebook", "Adds, edits or deletes a notebook, or makes it the default.", declare, run};
+const Command notebookCommand = {"notebook",
+                                 "Adds, edits or deletes a notebook, or makes it the default.",
+                                 {2, 2, "say add, edit, delete or default, and which notebook"},
+                                 declare,
+                                 run};

@@ -12,6 +12,7 @@
 namespace
 {
 const QString JsonOption = QStringLiteral("json");
+constexpr int ColorWidth = 9;
 
 void declare(QCommandLineParser &parser)
 {
@@ -62,8 +63,9 @@ ExitCode run(const QCommandLineParser &parser, Console &console)
         if (parser.isSet(JsonOption)) {
             array.append(toJson(*notebook, isDefault));
         } else {
-            console.out() << notebook->uid() << "  " << notebook->color().leftJustified(8)
-                          << notebook->name() << marks(*notebook, isDefault) << '\n';
+            console.out() << printable(notebook->uid()) << "  "
+                          << notebook->color().leftJustified(ColorWidth)
+                          << titleText(notebook->name()) << marks(*notebook, isDefault) << '\n';
         }
     }
     if (parser.isSet(JsonOption)) {
@@ -73,4 +75,4 @@ ExitCode run(const QCommandLineParser &parser, Console &console)
 }
 } // namespace
 
-const Command notebooksCommand = {"notebooks", "Lists the notebooks.", declare, run};
+const Command notebooksCommand = {"notebooks", "Lists the notebooks.", {0, 0, ""}, declare, run};

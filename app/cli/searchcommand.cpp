@@ -6,8 +6,12 @@
 #include "database.h"
 #include "incidencejson.h"
 
+#include <KCalendarCore/Todo>
+
 #include <QCommandLineParser>
 #include <QJsonArray>
+
+#include <algorithm>
 
 namespace
 {
@@ -26,19 +30,18 @@ void declare(QCommandLineParser &parser)
 void print(const KCalCore::Incidence::Ptr &incidence, const QTimeZone &zone, QTextStream &out)
 {
     constexpr int TimeWidth = 18;
-    const QDateTime time = incidence->dateTime(KCalCore::Incidence::RoleSort);
-    const QDateTime shown = incidence->allDay() ? time : time.toTimeZone(zone);
-    out << shown
-               .toString(incidence->allDay() ? QStringLiteral("yyyy-MM-dd")
-                                             : QStringLiteral("yyyy-MM-dd HH:mm"))
-               .leftJustified(TimeWidth)
-        << typeName(incidence).leftJustified(9) << incidence->summary().simplified() << "  · "
-        << incidence->uid() << '\n';
+    constexpr int TypeWidth = 9;
+    const auto todo = incidence.dynamicCast<KCalCore::Todo>();
+    const QDateTime time = todo && todo->hasDueDate() ? todo->dtDue() : incidence->dtStart();
+    out << shortText(time, incidence->allDay(), zone).leftJustified(TimeWidth)
+        << typeName(incidence).leftJustified(TypeWidth) << titleText(incidence->summary()) << "  · "
+        << printable(incidence->uid()) << '\n';
 }
 
 ExitCode run(const QCommandLineParser &parser, Console &console)
 {
-    if (parser.positionalArguments().isEmpty()) {
+    const QString text = parser.positionalArguments().join(QLatin1Char(' ')).trimmed();
+    if (text.isEmpty()) {
         console.message(QStringLiteral("no text given"));
         return WrongUsage;
     }
@@ -46,30 +49,33 @@ ExitCode run(const QCommandLineParser &parser, Console &console)
     if (!database.isOpen()) {
         return Failed;
     }
-    const NotebookFilter filter(database, parser);
     const auto calendar = database.calendar();
-    const auto found =
-        database.storage()->search(parser.positionalArguments().join(QLatin1Char(' ')));
+    const NotebookFilter filter(database, parser);
+    const auto matching = database.storage()->search(text);
     if (!database.storage()->errorMessage().isEmpty()) {
         console.message(database.storage()->errorMessage());
         return Failed;
     }
-    QJsonArray array;
-    for (const auto &incidence : found) {
-        if (!filter.shows(incidence)) {
-            continue;
-        }
-        if (parser.isSet(JsonOption)) {
-            array.append(incidenceDetailsToJson(incidence, calendar->notebook(incidence)));
-        } else {
-            print(incidence, calendar->timeZone(), console.out());
-        }
-    }
+    KCalCore::Incidence::List found;
+    std::copy_if(matching.begin(), matching.end(), std::back_inserter(found),
+                 [&filter](const auto &incidence) { return filter.shows(incidence); });
     if (parser.isSet(JsonOption)) {
+        QJsonArray array;
+        for (const auto &incidence : qAsConst(found)) {
+            array.append(incidenceDetailsToJson(*calendar, incidence));
+        }
         console.json(QJsonDocument(array));
+        return Done;
+    }
+    for (const auto &incidence : qAsConst(found)) {
+        print(incidence, calendar->timeZone(), console.out());
+    }
+    if (found.isEmpty()) {
+        console.out() << "Nothing found.\n";
     }
     return Done;
 }
 } // namespace
 
-const Command searchCommand = {"search", "Finds items by their text.", declare, run};
+const Command searchCommand = {
+    "search", "Finds items by their text.", {1, ArgumentCount::Any, "no text given"}, declare, run};

@@ -9,6 +9,8 @@
 #include <QCommandLineParser>
 #include <QJsonArray>
 
+#include <algorithm>
+
 namespace
 {
 const QString JsonOption = QStringLiteral("json");
@@ -48,59 +50,72 @@ void print(const QJsonObject &object, QTextStream &out)
 {
     constexpr int NameWidth = 17;
     // The order in which a person asks, not that of the letters.
-    static const QStringList Names = {QStringLiteral("summary"),
-                                      QStringLiteral("type"),
-                                      QStringLiteral("start"),
-                                      QStringLiteral("end"),
-                                      QStringLiteral("zone"),
-                                      QStringLiteral("allDay"),
-                                      QStringLiteral("location"),
-                                      QStringLiteral("rules"),
-                                      QStringLiteral("recurrenceId"),
-                                      QStringLiteral("completed"),
-                                      QStringLiteral("percentComplete"),
-                                      QStringLiteral("alarms"),
-                                      QStringLiteral("organizer"),
-                                      QStringLiteral("attendees"),
-                                      QStringLiteral("categories"),
-                                      QStringLiteral("description"),
-                                      QStringLiteral("notebook"),
-                                      QStringLiteral("uid"),
-                                      QStringLiteral("lastModified")};
-    for (const QString &name : Names) {
-        const QString text = valueText(object.value(name));
-        if (!text.isEmpty()) {
-            out << name.leftJustified(NameWidth) << text << '\n';
+    static const char *const Names[] = {"summary",      "type",
+                                        "start",        "end",
+                                        "due",          "zone",
+                                        "allDay",       "location",
+                                        "rules",        "exclusionRules",
+                                        "extraDates",   "excludedDates",
+                                        "recurrenceId", "status",
+                                        "completed",    "percentComplete",
+                                        "priority",     "alarms",
+                                        "organizer",    "attendees",
+                                        "categories",   "url",
+                                        "description",  "notebook",
+                                        "uid",          "lastModified"};
+    const QString newLine = QLatin1Char('\n') + QString(NameWidth, QLatin1Char(' '));
+    for (const char *name : Names) {
+        const QString text = valueText(object.value(QLatin1String(name))).trimmed();
+        if (text.isEmpty()) {
+            continue;
+        }
+        QStringList lines = text.split(QLatin1Char('\n'));
+        for (QString &line : lines) {
+            line = printable(line.remove(QLatin1Char('\r')));
+        }
+        out << QString::fromLatin1(name).leftJustified(NameWidth) << lines.join(newLine) << '\n';
+    }
+}
+
+/// A series before its exceptions; exceptions are also kept without a series, such as the
+/// invitation to one meeting of it.
+KCalCore::Incidence::List incidencesOf(const QString &uid, const mKCal::ExtendedCalendar &calendar)
+{
+    KCalCore::Incidence::List found;
+    const auto loaded = calendar.rawIncidences();
+    for (const auto &incidence : loaded) {
+        if (incidence->uid() == uid) {
+            found.append(incidence);
         }
     }
+    std::stable_sort(found.begin(), found.end(), [](const auto &a, const auto &b) {
+        return a->recurrenceId().isValid() && b->recurrenceId().isValid()
+            ? a->recurrenceId() < b->recurrenceId()
+            : b->recurrenceId().isValid() && !a->recurrenceId().isValid();
+    });
+    return found;
 }
 
 ExitCode run(const QCommandLineParser &parser, Console &console)
 {
-    if (parser.positionalArguments().size() != 1) {
-        console.message(QStringLiteral("give the UID of one item"));
-        return WrongUsage;
-    }
     const Database database(console);
     if (!database.isOpen()) {
         return Failed;
     }
-    const QString uid = parser.positionalArguments().first();
-    database.storage()->load(uid);
-    const auto calendar = database.calendar();
-    const auto incidence = calendar->incidence(uid);
-    KCalCore::Incidence::List found;
-    if (incidence) {
-        found.append(incidence);
-        found += calendar->instances(incidence);
+    const QString uid = parser.positionalArguments().constFirst();
+    if (!database.storage()->load(uid)) {
+        console.message(database.storage()->errorMessage());
+        return Failed;
     }
+    const auto calendar = database.calendar();
+    const auto found = incidencesOf(uid, *calendar);
     if (found.isEmpty()) {
         console.message(QStringLiteral("there is no item with the UID '%1'").arg(uid));
         return Failed;
     }
     QJsonArray array;
-    for (const auto &each : qAsConst(found)) {
-        array.append(incidenceDetailsToJson(each, calendar->notebook(each)));
+    for (const auto &incidence : found) {
+        array.append(incidenceDetailsToJson(*calendar, incidence));
     }
     if (parser.isSet(JsonOption)) {
         console.json(QJsonDocument(array));
@@ -114,4 +129,5 @@ ExitCode run(const QCommandLineParser &parser, Console &console)
 }
 } // namespace
 
-const Command showCommand = {"show", "Tells all about one item.", declare, run};
+const Command showCommand = {
+    "show", "Tells all about one item.", {1, 1, "no UID given"}, declare, run};

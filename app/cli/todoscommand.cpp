@@ -47,29 +47,23 @@ bool comesBefore(const KCalCore::Todo::Ptr &a, const KCalCore::Todo::Ptr &b)
     return a->hasDueDate() && a->dtDue() < b->dtDue();
 }
 
-QString dueText(const KCalCore::Todo::Ptr &todo, const QTimeZone &zone)
+bool isOverdue(const KCalCore::Todo &todo, const QDateTime &now)
 {
-    if (!todo->hasDueDate()) {
-        return {};
+    if (!todo.hasDueDate() || todo.isCompleted()) {
+        return false;
     }
-    const QDateTime due = todo->allDay() ? todo->dtDue() : todo->dtDue().toTimeZone(zone);
-    return due.toString(todo->allDay() ? QStringLiteral("yyyy-MM-dd")
-                                       : QStringLiteral("yyyy-MM-dd HH:mm"));
+    return todo.allDay() ? todo.dtDue().date() < now.date() : todo.dtDue() < now;
 }
 
-void print(const KCalCore::Todo::List &todos, const Database &database, QTextStream &out)
+void print(const KCalCore::Todo::List &todos, const QTimeZone &zone, QTextStream &out)
 {
     constexpr int DueWidth = 18;
-    const QTimeZone zone = database.calendar()->timeZone();
     const QDateTime now = KCalCompat::Clock::now().toTimeZone(zone);
     for (const auto &todo : todos) {
-        const QString title = todo->summary().simplified();
+        const QDateTime due = todo->hasDueDate() ? todo->dtDue() : QDateTime();
         out << (todo->isCompleted() ? "[x] " : "[ ] ")
-            << dueText(todo, zone).leftJustified(DueWidth)
-            << (title.isEmpty() ? QStringLiteral("(no title)") : title);
-        const bool isOverdue = todo->hasDueDate() && !todo->isCompleted()
-            && (todo->allDay() ? todo->dtDue().date() < now.date() : todo->dtDue() < now);
-        out << (isOverdue ? " (overdue)" : "") << '\n';
+            << shortText(due, todo->allDay(), zone).leftJustified(DueWidth)
+            << titleText(todo->summary()) << (isOverdue(*todo, now) ? " (overdue)" : "") << '\n';
     }
     if (todos.isEmpty()) {
         out << "Nothing to do.\n";
@@ -97,16 +91,16 @@ ExitCode run(const QCommandLineParser &parser, Console &console)
     }
     std::stable_sort(todos.begin(), todos.end(), comesBefore);
     if (!parser.isSet(JsonOption)) {
-        print(todos, database, console.out());
+        print(todos, database.calendar()->timeZone(), console.out());
         return Done;
     }
     QJsonArray array;
     for (const auto &todo : qAsConst(todos)) {
-        array.append(incidenceDetailsToJson(todo, database.calendar()->notebook(todo)));
+        array.append(incidenceDetailsToJson(*database.calendar(), todo));
     }
     console.json(QJsonDocument(array));
     return Done;
 }
 } // namespace
 
-const Command todosCommand = {"todos", "Lists what is to be done.", declare, run};
+const Command todosCommand = {"todos", "Lists what is to be done.", {0, 0, ""}, declare, run};
