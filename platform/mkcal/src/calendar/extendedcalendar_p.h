@@ -47,6 +47,11 @@ public:
     void putInNotebook(const QString &uid, const QString &notebook);
     KnownNotebook *knownNotebook(const QString &uid);
 
+    // Series
+    /// Makes an exception an incidence of its own; null for a cancelled one.
+    KCalCore::Incidence::Ptr detachException(const KCalCore::Incidence::Ptr &series,
+                                             const KCalCore::Incidence::Ptr &exception);
+
     // Index
     ZoneClock clock() const { return ZoneClock(q->timeZone()); }
     void index(const KCalCore::Incidence::Ptr &incidence);

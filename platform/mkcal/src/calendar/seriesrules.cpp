@@ -7,8 +7,6 @@
 #include "dateindex.h"
 #include "recurrenceidentity.h"
 
-#include <kcalcompat/ksystemtimezones.h>
-
 #include <algorithm>
 
 namespace mKCal
@@ -155,18 +153,12 @@ void makeBearable(Recurrence *recurrence)
     }
 }
 
-QDateTime inSpecOf(const QDateTime &dateTime, const QDateTime &model)
-{
-    return model.timeSpec() == Qt::LocalTime ? dateTime.toLocalTime()
-                                             : dateTime.toTimeZone(model.timeZone());
-}
-
 /// Rewrites a copy of a recurrence so that its wall clock is counted as UTC, which skips nothing.
 void countWallAsUtc(Recurrence *recurrence)
 {
     const QDateTime first = recurrence->startDateTime();
     const auto asUtc = [&first](const QDateTime &dateTime) {
-        const QDateTime wall = inSpecOf(dateTime, first);
+        const QDateTime wall = inSpecOf(first, dateTime);
         return QDateTime(wall.date(), wall.time(), Qt::UTC);
     };
     const auto allAsUtc = [&asUtc](QList<QDateTime> dateTimes) {
@@ -212,7 +204,7 @@ TimeSpan lifeOfSeries(const KCalCore::Incidence &series,
     const Length length = Length::of(series);
     const QDateTime first = recurrence.startDateTime();
     const auto include = [&](const QDateTime &dateTime) {
-        const QDateTime start = inOwnZone(inSpecOf(dateTime, first), wallBound, clock);
+        const QDateTime start = inOwnZone(inSpecOf(first, dateTime), wallBound, clock);
         life.start = qMin(life.start, start.toMSecsSinceEpoch());
         life.end = qMax(life.end, length.endAfter(start, clock));
     };
@@ -253,8 +245,8 @@ TimeSpan lifeOfSeries(const KCalCore::Incidence &series,
 SeriesScale::SeriesScale(const KCalCore::Incidence &series, const ZoneClock &calendarClock)
     : clock(calendarClock),
       first(series.recurs() ? series.recurrence()->startDateTime() : anchor(series)),
-      zone(first.timeSpec() == Qt::LocalTime ? KSystemTimeZones::local() : first.timeZone()),
-      isAllDay(series.allDay()), isWallBound(isAllDay || first.timeSpec() == Qt::LocalTime)
+      zone(zoneOf(first)), isAllDay(series.allDay()),
+      isWallBound(isAllDay || first.timeSpec() == Qt::LocalTime)
 {
 }
 
@@ -323,6 +315,29 @@ bool SeriesWalk::next()
 {
     m_current = m_recurrence->getNextDateTime(m_current);
     return m_current.isValid();
+}
+
+bool SeriesWalk::goToLast(qint64 key)
+{
+    goAfter(key);
+    const QDateTime bound = m_current.addSecs(1);
+    QDateTime last = m_recurrence->getPreviousDateTime(bound);
+    // Of several RDATEs KCalendarCore finds the first, not the last.
+    const auto consider = [&](const QDateTime &added) {
+        const bool isBetter = added < bound && (!last.isValid() || added > last);
+        if (isBetter && m_recurrence->getNextDateTime(added.addSecs(-1)) == added) {
+            last = added;
+        }
+    };
+    const auto times = m_recurrence->rDateTimes();
+    std::for_each(times.cbegin(), times.cend(), consider);
+    const auto days = m_recurrence->rDates();
+    const QDateTime first = m_recurrence->startDateTime();
+    for (const QDate &day : days) {
+        consider(inSpecOf(first, atWallClock(day, first.time(), zoneOf(first))));
+    }
+    m_current = last;
+    return last.isValid();
 }
 
 QDateTime SeriesWalk::start() const

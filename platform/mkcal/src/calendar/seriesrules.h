@@ -50,6 +50,8 @@ public:
     void goAfter(qint64 key);
     /// Goes to the next start; false when there is none.
     bool next();
+    /// Goes to the last start up to @p key; false when there is none.
+    bool goToLast(qint64 key);
 
     qint64 key() const { return m_scale.keyOfStart(m_scale.isWallBound ? m_current : start()); }
     /// The current start in the series' own zone, in the calendar's when it is bound to the wall.

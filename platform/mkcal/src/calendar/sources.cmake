@@ -11,5 +11,8 @@ set(MKCAL_CALENDAR_SOURCES
     src/calendar/incidencetimes.cpp
     src/calendar/occurrences.cpp
     src/calendar/recurrenceidentity.cpp
+    src/calendar/reminderplanner.cpp
+    src/calendar/series.cpp
+    src/calendar/seriescut.cpp
     src/calendar/seriesrules.cpp
     src/calendar/zoneclock.cpp)

@@ -25,6 +25,32 @@ qint64 wallSeconds(const QDateTime &dateTime)
         + dateTime.time().msecsSinceStartOfDay() / 1000;
 }
 
+QTimeZone zoneOf(const QDateTime &dateTime)
+{
+    return dateTime.timeSpec() == Qt::LocalTime ? KSystemTimeZones::local() : dateTime.timeZone();
+}
+
+QDateTime inSpecOf(const QDateTime &model, const QDateTime &dateTime)
+{
+    switch (model.timeSpec()) {
+    case Qt::LocalTime:
+        return dateTime.toLocalTime();
+    case Qt::UTC:
+        return dateTime.toUTC();
+    case Qt::OffsetFromUTC:
+        return dateTime.toOffsetFromUtc(model.offsetFromUtc());
+    case Qt::TimeZone:
+        break;
+    }
+    return dateTime.toTimeZone(model.timeZone());
+}
+
+QDateTime shiftedByWall(const QDateTime &dateTime, qint64 seconds)
+{
+    const QDateTime wall = QDateTime::fromSecsSinceEpoch(wallSeconds(dateTime) + seconds, Qt::UTC);
+    return inSpecOf(dateTime, atWallClock(wall.date(), wall.time(), zoneOf(dateTime)));
+}
+
 ZoneClock::ZoneClock(const QTimeZone &zone)
     : m_zone(zone.isValid() ? zone : KSystemTimeZones::local()),
       m_isSystem(m_zone == KSystemTimeZones::local())

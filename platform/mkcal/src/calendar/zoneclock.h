@@ -23,6 +23,15 @@ QDateTime atWallClock(const QDate &date, const QTime &time, const QTimeZone &zon
 /// between dates that no clock change bends.
 qint64 wallSeconds(const QDateTime &dateTime);
 
+/// The zone that @p dateTime is written in, for clock time the system's.
+QTimeZone zoneOf(const QDateTime &dateTime);
+
+/// The same moment, written in the time spec of @p model.
+QDateTime inSpecOf(const QDateTime &model, const QDateTime &dateTime);
+
+/// @p dateTime moved by that many seconds of the wall clock, in its time spec.
+QDateTime shiftedByWall(const QDateTime &dateTime, qint64 seconds);
+
 /// A wall clock in one zone. Its moments are written in Qt::LocalTime when that is the system's
 /// zone, so that the views compare and show them without conversion.
 class ZoneClock
