@@ -185,6 +185,9 @@ StorageCall::~StorageCall()
 bool StorageCall::ended(bool succeeded)
 {
     m_storage.error = succeeded ? SqliteError() : m_storage.connection.lastError();
+    // A connection that is closed has no file to name.
+    if (m_storage.error.message.startsWith(QLatin1Char(':')))
+        m_storage.error.message.prepend(m_storage.fileName);
     return succeeded;
 }
 

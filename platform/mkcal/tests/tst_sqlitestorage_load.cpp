@@ -1,0 +1,346 @@
+// SPDX-FileCopyrightText: 2026 The daskel authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "storagefixture.h"
+
+using namespace mKCal;
+using namespace Make;
+
+namespace
+{
+using Load = std::function<bool(OpenStorage &)>;
+
+/// What is stored before each load: one of each kind that a load may or may not bring.
+KCalCore::Incidence::List stock()
+{
+    const auto series = daily(QStringLiteral("series"), at(2026, 3, 1, 9), 20);
+    const auto oldSeries = daily(QStringLiteral("oldSeries"), at(2025, 1, 1, 9), 5);
+    const auto done = todo(QStringLiteral("done"), at(2026, 3, 11, 12));
+    done->setCompleted(at(2026, 3, 9, 8));
+    const auto doneEarlier = todo(QStringLiteral("doneEarlier"), at(2026, 2, 1, 12));
+    doneEarlier->setCompleted(at(2026, 2, 1, 8));
+    const auto longTrip = meeting(QStringLiteral("trip"), at(2026, 2, 1, 9), 60 * 24 * 60);
+    return {meeting(QStringLiteral("today"), at(2026, 3, 10, 15)),
+            meeting(QStringLiteral("tomorrow"), at(2026, 3, 11, 9)),
+            meeting(QStringLiteral("nextMonth"), at(2026, 4, 10, 9)),
+            meeting(QStringLiteral("lastYear"), at(2025, 3, 10, 9)),
+            longTrip,
+            allDay(QStringLiteral("holiday"), QDate(2026, 3, 12), 2),
+            series,
+            exception(series, at(2026, 3, 4, 9), at(2026, 5, 4, 11)),
+            oldSeries,
+            todo(QStringLiteral("someday")),
+            todo(QStringLiteral("due"), at(2026, 3, 11, 18)),
+            done,
+            doneEarlier,
+            journal(QStringLiteral("diary"), at(2026, 3, 2, 20))};
+}
+} // namespace
+
+Q_DECLARE_METATYPE(Load)
+
+class TestStorageLoad : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void loadBringsWhatItSays_data();
+    void loadBringsWhatItSays();
+    void onlyMissingDaysAreRead();
+    void zonesAndFloatingTimesAreInTheirDays_data();
+    void zonesAndFloatingTimesAreInTheirDays();
+    void exceptionsComeWithTheirSeries_data();
+    void exceptionsComeWithTheirSeries();
+    void unsavedDeletionIsNotUndoneByALoad();
+    void unsavedChangeIsNotOverwrittenByALoad();
+    void futureIncidencesInPages();
+    void completedTodosInPages();
+    void searchFindsAnyCase_data();
+    void searchFindsAnyCase();
+    void nextDate_data();
+    void nextDate();
+    void allIncidencesStayOutOfTheCalendar();
+
+private:
+    std::unique_ptr<StorageFixture> m_fixture;
+};
+
+void TestStorageLoad::init()
+{
+    m_fixture = std::make_unique<StorageFixture>();
+    QVERIFY(m_fixture->store(stock()));
+}
+
+void TestStorageLoad::cleanup()
+{
+    m_fixture.reset();
+}
+
+void TestStorageLoad::loadBringsWhatItSays_data()
+{
+    QTest::addColumn<Load>("load");
+    QTest::addColumn<QStringList>("uids");
+
+    const QStringList series{QStringLiteral("series"), QStringLiteral("series/20260304")};
+    const QStringList all{"diary",    "done",      "doneEarlier", "due",    "holiday",
+                          "lastYear", "nextMonth", "oldSeries",   "series", "series/20260304",
+                          "someday",  "today",     "tomorrow",    "trip"};
+    QTest::newRow("everything") << Load([](OpenStorage &s) { return s.storage->load(); }) << all;
+    QTest::newRow("one day") << Load([](OpenStorage &s) {
+        return s.storage->load(QDate(2026, 4, 10));
+    }) << QStringList{"nextMonth"};
+    QTest::newRow("days, with what began long before") << Load([](OpenStorage &s) {
+        return s.storage->load(QDate(2026, 3, 10), QDate(2026, 3, 13));
+    }) << QStringList{"done", "due", "holiday", "today", "tomorrow", "trip"};
+    QTest::newRow("no days") << Load([](OpenStorage &s) {
+        return s.storage->load(QDate(2026, 3, 13), QDate(2026, 3, 10));
+    }) << QStringList{};
+    QTest::newRow("recurring") << Load([](OpenStorage &s) {
+        return s.storage->loadRecurringIncidences();
+    }) << (QStringList{"oldSeries"} + series);
+    QTest::newRow("recurring, alive") << Load([](OpenStorage &s) {
+        return s.storage->loadRecurringIncidences(QDate(2026, 3, 10), QDate(2026, 3, 11));
+    }) << series;
+    QTest::newRow("recurring, only the moved exception is alive") << Load([](OpenStorage &s) {
+        return s.storage->loadRecurringIncidences(QDate(2026, 5, 4), QDate(2026, 5, 4));
+    }) << series;
+    QTest::newRow("open to-dos") << Load([](OpenStorage &s) {
+        return s.storage->loadUncompletedTodos();
+    }) << QStringList{"due", "someday"};
+    QTest::newRow("journals") << Load([](OpenStorage &s) { return s.storage->loadJournals(); })
+                              << QStringList{"diary"};
+    QTest::newRow("notebook") << Load([](OpenStorage &s) {
+        return s.storage->loadNotebookIncidences(QStringLiteral("work"));
+    }) << all;
+    QTest::newRow("unknown notebook") << Load([](OpenStorage &s) {
+        return s.storage->loadNotebookIncidences(QStringLiteral("other"));
+    }) << QStringList{};
+    QTest::newRow("one incidence")
+        << Load([](OpenStorage &s) { return s.storage->load(QStringLiteral("today")); })
+        << QStringList{"today"};
+    QTest::newRow("one series") << Load([](OpenStorage &s) {
+        return s.storage->load(QStringLiteral("series"));
+    }) << series;
+}
+
+void TestStorageLoad::loadBringsWhatItSays()
+{
+    QFETCH(Load, load);
+    QFETCH(QStringList, uids);
+    uids.sort();
+    const auto reader = m_fixture->open();
+    QVERIFY(load(*reader));
+    QCOMPARE(reader->uids(), uids);
+    QVERIFY(!reader->storage->hasUnsavedChanges());
+    QCOMPARE(reader->notices.modified, 0);
+
+    const int reads = reader->reads();
+    QVERIFY(load(*reader));
+    QCOMPARE(reader->reads(), reads);
+    QCOMPARE(reader->uids(), uids);
+}
+
+void TestStorageLoad::onlyMissingDaysAreRead()
+{
+    const auto reader = m_fixture->open();
+    QVERIFY(reader->storage->load(QDate(2026, 3, 10), QDate(2026, 3, 13)));
+    const KCalCore::Incidence::Ptr before = reader->incidence(QStringLiteral("today"));
+    const int readsOfOneRange = reader->reads();
+    // A month around it: two gaps.
+    QVERIFY(reader->storage->load(QDate(2026, 3, 1), QDate(2026, 4, 30)));
+    QCOMPARE(reader->reads(), 3 * readsOfOneRange);
+    QCOMPARE(reader->incidence(QStringLiteral("today")), before);
+    QVERIFY(reader->incidence(QStringLiteral("nextMonth")));
+    QVERIFY(reader->storage->load(QDate(2026, 3, 5), QDate(2026, 4, 20)));
+    QCOMPARE(reader->reads(), 3 * readsOfOneRange);
+}
+
+void TestStorageLoad::zonesAndFloatingTimesAreInTheirDays_data()
+{
+    QTest::addColumn<KCalCore::Event::Ptr>("stored");
+    const QDate day(2026, 7, 1);
+    QTest::newRow("floating, early") << meeting(QStringLiteral("x"), QDateTime(day, QTime(0, 5)));
+    QTest::newRow("floating, late")
+        << meeting(QStringLiteral("x"), QDateTime(day, QTime(23, 30)), 5);
+    QTest::newRow("all-day") << allDay(QStringLiteral("x"), day);
+    QTest::newRow("in Auckland") << meeting(
+        QStringLiteral("x"), QDateTime(day.addDays(1), QTime(8, 0), QTimeZone("Pacific/Auckland")),
+        30);
+    QTest::newRow("in Honolulu") << meeting(
+        QStringLiteral("x"),
+        QDateTime(day.addDays(-1), QTime(12, 0), QTimeZone("Pacific/Honolulu")), 30);
+    QTest::newRow("over midnight") << meeting(QStringLiteral("x"), at(2026, 6, 30, 23, 30));
+}
+
+void TestStorageLoad::zonesAndFloatingTimesAreInTheirDays()
+{
+    QFETCH(KCalCore::Event::Ptr, stored);
+    QVERIFY(m_fixture->store({stored}));
+    const auto reader = m_fixture->open();
+    QVERIFY(reader->storage->load(QDate(2026, 7, 1)));
+    QVERIFY(reader->incidence(QStringLiteral("x")));
+}
+
+void TestStorageLoad::exceptionsComeWithTheirSeries_data()
+{
+    QTest::addColumn<Load>("load");
+    QTest::newRow("by its recurrence identifier") << Load([](OpenStorage &s) {
+        return s.storage->load(QStringLiteral("series"), KDateTime(at(2026, 3, 4, 9)));
+    });
+    QTest::newRow("by search") << Load([](OpenStorage &s) {
+        return s.storage->search(QStringLiteral("moved elsewhere")).size() == 1;
+    });
+    QTest::newRow("by attendee") << Load([](OpenStorage &s) {
+        return s.storage->loadByAttendee(QStringLiteral("ANNA@example.org"));
+    });
+    QTest::newRow("by creation") << Load([](OpenStorage &s) {
+        return s.storage->loadCreatedSince(QDateTime(QDate(2026, 3, 20), QTime(0, 0), Qt::UTC));
+    });
+    QTest::newRow("by modification") << Load([](OpenStorage &s) {
+        return s.storage->loadModifiedSince(QDateTime(QDate(2026, 3, 20), QTime(0, 0), Qt::UTC));
+    });
+}
+
+void TestStorageLoad::exceptionsComeWithTheirSeries()
+{
+    QFETCH(Load, load);
+    const auto series = daily(QStringLiteral("series"), at(2026, 3, 1, 9), 20);
+    const auto moved = exception(series, at(2026, 3, 7, 9), at(2026, 3, 7, 15));
+    moved->setSummary(QStringLiteral("Moved elsewhere"), false);
+    moved->addAttendee(
+        KCalCore::Attendee(QStringLiteral("Anna"), QStringLiteral("anna@example.org")));
+    m_fixture->now = QDateTime(QDate(2026, 3, 21), QTime(12, 0), Qt::UTC);
+    QVERIFY(m_fixture->store({moved}));
+
+    const auto reader = m_fixture->open();
+    QVERIFY(load(*reader));
+    QCOMPARE(reader->uids(), QStringList({"series", "series/20260304", "series/20260307"}));
+}
+
+void TestStorageLoad::unsavedDeletionIsNotUndoneByALoad()
+{
+    const auto reader = m_fixture->open();
+    QVERIFY(reader->storage->load(QDate(2026, 3, 10)));
+    QVERIFY(reader->calendar->deleteIncidence(reader->incidence(QStringLiteral("today"))));
+    QVERIFY(reader->storage->loadRecurringIncidences());
+    QVERIFY(reader->calendar->deleteIncidence(reader->incidence(QStringLiteral("series"))));
+    QVERIFY(reader->storage->load());
+    QVERIFY(!reader->incidence(QStringLiteral("today")));
+    QVERIFY(!reader->incidence(QStringLiteral("series")));
+    QVERIFY(!reader->incidence(QStringLiteral("series"), KDateTime(at(2026, 3, 4, 9))));
+    QVERIFY(reader->storage->save());
+    QVERIFY(!m_fixture->open()->storage->search(QStringLiteral("tomorrow")).isEmpty());
+    QVERIFY(m_fixture->open()->storage->search(QStringLiteral("series")).size() == 1);
+}
+
+void TestStorageLoad::unsavedChangeIsNotOverwrittenByALoad()
+{
+    const auto reader = m_fixture->open();
+    QVERIFY(reader->storage->load(QDate(2026, 3, 10)));
+    reader->incidence(QStringLiteral("today"))->setSummary(QStringLiteral("edited"), false);
+    QVERIFY(reader->storage->hasUnsavedChanges());
+    QVERIFY(reader->storage->load());
+    QCOMPARE(reader->incidence(QStringLiteral("today"))->summary(), QStringLiteral("edited"));
+}
+
+void TestStorageLoad::futureIncidencesInPages()
+{
+    const auto reader = m_fixture->open();
+    KDateTime last;
+    QVERIFY(reader->storage->loadFutureIncidences(2, &last));
+    QCOMPARE(reader->uids(), QStringList({"today", "tomorrow"}));
+    QCOMPARE(last.dateTime(), at(2026, 3, 11, 9));
+    QVERIFY(reader->storage->loadFutureIncidences(100, &last));
+    QCOMPARE(reader->uids(),
+             QStringList({"done", "due", "holiday", "nextMonth", "today", "tomorrow"}));
+    QCOMPARE(last.dateTime(), at(2026, 4, 10, 9));
+    QVERIFY(reader->storage->loadFutureIncidences(0, &last));
+    QVERIFY(!last.isValid());
+}
+
+void TestStorageLoad::completedTodosInPages()
+{
+    const auto sameSecond = todo(QStringLiteral("sameSecond"), at(2026, 3, 1, 9));
+    sameSecond->setCompleted(at(2026, 3, 9, 8));
+    QVERIFY(m_fixture->store({sameSecond}));
+    const auto reader = m_fixture->open();
+    KDateTime last;
+    QCOMPARE(reader->storage->loadCompletedTodos(1, &last), 2);
+    QCOMPARE(reader->uids(), QStringList({"done", "sameSecond"}));
+    QCOMPARE(reader->storage->loadCompletedTodos(1, &last), 1);
+    QVERIFY(reader->incidence(QStringLiteral("doneEarlier")));
+    QCOMPARE(reader->storage->loadCompletedTodos(1, &last), 0);
+}
+
+void TestStorageLoad::searchFindsAnyCase_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<int>("limit");
+    QTest::addColumn<QStringList>("uids");
+    QTest::newRow("newest first") << QStringLiteral("äLäm") << 0 << QStringList{"late", "early"};
+    QTest::newRow("limited") << QStringLiteral("äläm") << 1 << QStringList{"late"};
+    QTest::newRow("location") << QStringLiteral("KATU") << 0 << QStringList{"early"};
+    QTest::newRow("description") << QStringLiteral("100%_") << 0 << QStringList{"late"};
+    QTest::newRow("category") << QStringLiteral("perhe") << 0 << QStringList{"late"};
+    QTest::newRow("nothing") << QStringLiteral("nowhere") << 0 << QStringList{};
+}
+
+void TestStorageLoad::searchFindsAnyCase()
+{
+    QFETCH(QString, text);
+    QFETCH(int, limit);
+    QFETCH(QStringList, uids);
+    const auto early = meeting(QStringLiteral("early"), at(2026, 1, 1, 9));
+    early->setSummary(QStringLiteral("ÄLÄMÖLÖ"), false);
+    early->setLocation(QStringLiteral("Rantakatu 1"), false);
+    const auto late = meeting(QStringLiteral("late"), at(2026, 2, 1, 9));
+    late->setSummary(QStringLiteral("älämölö"), false);
+    late->setDescription(QStringLiteral("100%_sure"), false);
+    late->setCategories(QStringList{QStringLiteral("Perhe, ystävät")});
+    QVERIFY(m_fixture->store({early, late}));
+    const auto reader = m_fixture->open();
+    QStringList found;
+    for (const auto &incidence : reader->storage->search(text, limit))
+        found.append(incidence->uid());
+    QCOMPARE(found, uids);
+}
+
+void TestStorageLoad::nextDate_data()
+{
+    QTest::addColumn<QDate>("from");
+    QTest::addColumn<QDate>("next");
+    QTest::newRow("the same day") << QDate(2026, 4, 10) << QDate(2026, 4, 10);
+    QTest::newRow("in the middle of a trip") << QDate(2026, 2, 15) << QDate(2026, 2, 15);
+    QTest::newRow("the next event") << QDate(2026, 4, 3) << QDate(2026, 4, 10);
+    QTest::newRow("a moved occurrence") << QDate(2026, 4, 11) << QDate(2026, 5, 4);
+    QTest::newRow("an occurrence of a series") << QDate(2024, 12, 20) << QDate(2025, 1, 1);
+    QTest::newRow("far away") << QDate(2017, 1, 1) << QDate(2025, 1, 1);
+    QTest::newRow("too far away") << QDate(2010, 1, 1) << QDate();
+    QTest::newRow("nothing more") << QDate(2026, 5, 5) << QDate();
+}
+
+void TestStorageLoad::nextDate()
+{
+    QFETCH(QDate, from);
+    QFETCH(QDate, next);
+    const auto reader = m_fixture->open();
+    QCOMPARE(reader->storage->nextDateWithIncidence(from), next);
+    QVERIFY(reader->uids().isEmpty());
+}
+
+void TestStorageLoad::allIncidencesStayOutOfTheCalendar()
+{
+    const auto reader = m_fixture->open();
+    KCalCore::Incidence::List list;
+    QVERIFY(reader->storage->allIncidences(&list));
+    QCOMPARE(list.size(), stock().size());
+    QVERIFY(reader->uids().isEmpty());
+    list.clear();
+    QVERIFY(reader->storage->allIncidences(&list, QStringLiteral("other")));
+    QVERIFY(list.isEmpty());
+}
+
+STORAGE_TEST_MAIN(TestStorageLoad)
+#include "tst_sqlitestorage_load.moc"
