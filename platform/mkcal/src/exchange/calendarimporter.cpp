@@ -6,6 +6,7 @@
 #include <mkcal/calendarimporter.h>
 
 #include <QFile>
+#include <QFileInfo>
 #include <QTemporaryFile>
 
 namespace mKCal
