@@ -46,6 +46,21 @@ bool ReminderSchedule::planStored(const QString &uid)
     return readFamily(uid, &family, &notebook) && plan(uid, family, notebook);
 }
 
+bool ReminderSchedule::planGiven(const QString &uid, const KCalCore::Incidence::List &incidences)
+{
+    const bool isSingle = incidences.size() == 1 && !incidences.first()->recurs()
+        && !incidences.first()->hasRecurrenceId();
+    if (!isSingle)
+        return planStored(uid);
+    if (!hasAlarms(incidences))
+        return plan(uid, {}, QString());
+    QString notebook;
+    if (!m_tables.writer.notebookOf(uid, &notebook))
+        return false;
+    // Nothing rings for what is not stored, or no longer.
+    return plan(uid, notebook.isEmpty() ? KCalCore::Incidence::List() : incidences, notebook);
+}
+
 bool ReminderSchedule::add(const KCalCore::Incidence::List &family, const QString &notebook)
 {
     if (!hasAlarms(family))

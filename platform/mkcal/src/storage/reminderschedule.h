@@ -29,6 +29,9 @@ public:
     bool plan(const QString &uid, const KCalCore::Incidence::List &family, const QString &notebook);
     /// The same from what is stored.
     bool planStored(const QString &uid);
+    /// The same for incidences that somebody has at hand: read are only the families that may have
+    /// more members.
+    bool planGiven(const QString &uid, const KCalCore::Incidence::List &incidences);
     /// Plans the stored series up to the horizon, unless that was done today.
     bool extendHorizon();
     /// Whether extendHorizon() has something to do.

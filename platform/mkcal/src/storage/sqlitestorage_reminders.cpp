@@ -51,8 +51,7 @@ bool SqliteStorage::resetAlarms(const KCalCore::Incidence::List &incidences)
     return call.ended(d->write(SqliteStoragePrivate::Counter::Stays, [&](qint64) {
         ReminderSchedule schedule(d->connection, *d->tables, d->calendar->timeZone());
         for (auto family = families.cbegin(); family != families.cend(); ++family) {
-            // Whoever hands over one exception does not mean that the rest of its series is gone.
-            if (!schedule.planStored(family.key()))
+            if (!schedule.planGiven(family.key(), family.value()))
                 return false;
         }
         return true;
