@@ -232,6 +232,11 @@ bool SqliteStorage::setDefaultFile(const QString &databaseName)
     return true;
 }
 
+ExtendedStorage::Ptr ExtendedCalendar::defaultStorage(const Ptr &calendar)
+{
+    return QSharedPointer<SqliteStorage>::create(calendar);
+}
+
 QString SqliteStorage::databaseName() const
 {
     return d->fileName;
