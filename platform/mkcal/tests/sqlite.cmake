@@ -10,3 +10,16 @@ daskel_add_test(tst_roundtrip
         roundtrip_times.cpp
         roundtrip_todos.cpp
     LINK mkcal)
+daskel_add_test(tst_schema
+    SOURCES sqlitefixtures.qrc
+    LINK mkcal SQLite::SQLite3)
+daskel_add_test(tst_sqliteconnection LINK mkcal SQLite::SQLite3)
+daskel_add_test(tst_sqlitecomponents LINK mkcal)
+daskel_add_test(tst_sqlitehostile
+    SOURCES
+        roundtrip_alarms.cpp
+        roundtrip_people.cpp
+        roundtrip_recurrence.cpp
+    LINK mkcal)
+daskel_add_test(tst_sqlitetables LINK mkcal)
+daskel_add_test(tst_storagecheck LINK mkcal)

@@ -57,15 +57,22 @@ ChildReader::ChildReader(Connection &connection, DateTimeReader &dateTimes)
 bool ChildReader::read(qint64 comp, int flags, Incidence *incidence)
 {
     Parts parts;
-    const bool answered =
-        (!(flags & ComponentFlag::Rules) || m_recurrence.readRules(comp, incidence->recurrence()))
-        && (!(flags & ComponentFlag::Dates)
-            || m_recurrence.readDates(comp, incidence->recurrence()))
-        && (!(flags & ComponentFlag::Alarms) || readAlarms(comp, incidence, &parts))
-        && (!(flags & ComponentFlag::Attendees) || readAttendees(comp, &parts))
-        && (!(flags & ComponentFlag::Attachments) || readAttachments(comp, incidence))
-        && (!(flags & ComponentFlag::Conferences) || readConferences(comp, &parts))
-        && (!(flags & ComponentFlag::Props) || readProps(comp, incidence, &parts));
+    // Each table is asked even when another could not be read: something may be saved.
+    bool answered = true;
+    if (flags & ComponentFlag::Rules)
+        answered &= m_recurrence.readRules(comp, incidence->recurrence());
+    if (flags & ComponentFlag::Dates)
+        answered &= m_recurrence.readDates(comp, incidence->recurrence());
+    if (flags & ComponentFlag::Alarms)
+        answered &= readAlarms(comp, incidence, &parts);
+    if (flags & ComponentFlag::Attendees)
+        answered &= readAttendees(comp, &parts);
+    if (flags & ComponentFlag::Attachments)
+        answered &= readAttachments(comp, incidence);
+    if (flags & ComponentFlag::Conferences)
+        answered &= readConferences(comp, &parts);
+    if (flags & ComponentFlag::Props)
+        answered &= readProps(comp, incidence, &parts);
     for (const Alarm::Ptr &alarm : qAsConst(parts.alarms))
         incidence->addAlarm(alarm);
     if (!parts.attendees.isEmpty())

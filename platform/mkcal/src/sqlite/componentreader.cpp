@@ -47,6 +47,7 @@ public:
     DateTimeReader dateTimes;
     ChildReader children;
     int faults = 0;
+    bool damageTolerated = false;
 };
 
 int ComponentReaderPrivate::enumeration(const Statement &row, int column, int most)
@@ -191,8 +192,11 @@ bool ComponentReaderPrivate::readRow(const Statement &row, ComponentRow *compone
         readTodoState(row, static_cast<Todo *>(incidence.data()));
     readNumbers(row, incidence.data());
     const int flags = row.smallInteger(Flags);
-    if (flags != 0 && !children.read(component->id, flags, incidence.data()))
-        return false;
+    if (flags != 0 && !children.read(component->id, flags, incidence.data())) {
+        if (!damageTolerated)
+            return false;
+        ++faults;
+    }
     if (incidence->type() == IncidenceBase::TypeTodo && !row.isNull(RecurrenceDue))
         static_cast<Todo *>(incidence.data())->setDtRecurrence(dateTimes.read(row, RecurrenceDue));
     // Nothing more is noted on what stays here: it refuses a time of modification.
@@ -221,10 +225,12 @@ bool ComponentReader::read(const QByteArray &condition, const SqlValues &values,
     row.bindAll(values);
     ComponentRow component;
     while (going && row.next()) {
+        const int faultsOfOthers = faults();
         if (!d->readRow(row, &component)) {
             row.reset();
             return false;
         }
+        component.faults = faults() - faultsOfOthers;
         if (component.incidence)
             going = sink(component);
     }
@@ -233,6 +239,11 @@ bool ComponentReader::read(const QByteArray &condition, const SqlValues &values,
         qCWarning(lcSqlite) << faults() - faultsBefore << "values of" << d->connection.fileName()
                             << "could not be read as they stand";
     return !row.failed();
+}
+
+void ComponentReader::tolerateDamage()
+{
+    d->damageTolerated = true;
 }
 
 int ComponentReader::faults() const

@@ -25,6 +25,7 @@ struct ComponentRow {
     ComponentState state = ComponentState::Live;
     qint64 stateTime = 0; ///< when it left the live ones, seconds since 1970, UTC
     KCalCore::Incidence::Ptr incidence; ///< without dirty fields
+    int faults = 0; ///< how many of its values could not be read as they stand
 };
 
 /// Builds incidences from rows. Rows that hold nonsense are read as far as possible: values out of
@@ -43,6 +44,10 @@ public:
     /// must be one of a few, since the statement is kept. False on a database error. A read inside
     /// the sink needs another reader.
     bool read(const QByteArray &condition, const SqlValues &values, const Sink &sink);
+
+    /// From now on a child table that cannot be read costs the component its rows there and counts
+    /// as a fault; otherwise the whole read fails.
+    void tolerateDamage();
 
     /// How many rows and values could not be read as they stand, since the reader was made.
     int faults() const;

@@ -43,6 +43,14 @@ void bindMilliseconds(Statement &statement, int parameter, const QDateTime &date
 }
 } // namespace
 
+/// What a row holds beside the incidence.
+struct RowMarks {
+    QString notebook;
+    qint64 change;
+    ComponentState state;
+    qint64 stateTime;
+};
+
 class ComponentWriterPrivate
 {
 public:
@@ -53,6 +61,7 @@ public:
     void bindTexts(Statement &statement, int shift, const Incidence &incidence);
     void bindKeys(Statement &statement, int shift, const ComponentKeys &keys);
     bool updateKeys(qint64 id, const ComponentKeys &keys);
+    bool insertRow(const Incidence &incidence, const RowMarks &marks, qint64 *id);
 
     Connection &connection;
     ChildWriter children;
@@ -202,6 +211,26 @@ bool ComponentWriterPrivate::updateKeys(qint64 id, const ComponentKeys &keys)
     return updateKeysStatement.run();
 }
 
+bool ComponentWriterPrivate::insertRow(const Incidence &incidence, const RowMarks &marks,
+                                       qint64 *id)
+{
+    const int flags = ChildWriter::flagsOf(incidence);
+    insert.bind(Notebook + 1, marks.notebook);
+    insert.bind(Uid + 1, incidence.uid());
+    insert.bind(RecId + 1, recIdText(incidence));
+    insert.bind(State + 1, int(marks.state));
+    insert.bind(StateTime + 1, marks.stateTime);
+    insert.bind(Change + 1, marks.change);
+    bindContent(insert, 1, incidence, flags);
+    bindKeys(insert, 1, ComponentKeys::of(incidence));
+    if (!insert.run())
+        return false;
+    const qint64 row = connection.lastInsertId();
+    if (id)
+        *id = row;
+    return children.write(row, incidence, flags);
+}
+
 ComponentWriter::ComponentWriter(Connection &connection)
     : d(std::make_unique<ComponentWriterPrivate>(connection))
 {
@@ -238,22 +267,15 @@ bool ComponentWriter::notebookOf(const QString &uid, QString *notebook)
 bool ComponentWriter::insert(const Incidence &incidence, const QString &notebook, qint64 change,
                              qint64 *id)
 {
-    const int flags = ChildWriter::flagsOf(incidence);
-    Statement &statement = d->insert;
-    statement.bind(Notebook + 1, notebook);
-    statement.bind(Uid + 1, incidence.uid());
-    statement.bind(RecId + 1, recIdText(incidence));
-    statement.bind(State + 1, int(ComponentState::Live));
-    statement.bind(StateTime + 1, 0);
-    statement.bind(Change + 1, change);
-    d->bindContent(statement, 1, incidence, flags);
-    d->bindKeys(statement, 1, ComponentKeys::of(incidence));
-    if (!statement.run())
-        return false;
-    const qint64 row = d->connection.lastInsertId();
-    if (id)
-        *id = row;
-    return d->children.write(row, incidence, flags);
+    return d->insertRow(incidence, {notebook, change, ComponentState::Live, 0}, id);
+}
+
+bool ComponentWriter::insertRetired(const Incidence &incidence, const QString &notebook,
+                                    qint64 change, bool overwritten, qint64 time)
+{
+    const ComponentState state =
+        overwritten ? ComponentState::Overwritten : ComponentState::Deleted;
+    return d->insertRow(incidence, {notebook, change, state, time}, nullptr);
 }
 
 bool ComponentWriter::update(const StoredComponent &stored, const Incidence &incidence,

@@ -37,6 +37,10 @@ public:
     /// @param change the change counter of this transaction.
     bool insert(const KCalCore::Incidence &incidence, const QString &notebook, qint64 change,
                 qint64 *id = nullptr);
+    /// Adds a tombstone or an overwritten version that was kept elsewhere.
+    /// @param time when it was retired, seconds since 1970, UTC.
+    bool insertRetired(const KCalCore::Incidence &incidence, const QString &notebook, qint64 change,
+                       bool overwritten, qint64 time);
     /// Replaces what the row @p stored holds.
     bool update(const StoredComponent &stored, const KCalCore::Incidence &incidence,
                 const QString &notebook, qint64 change);

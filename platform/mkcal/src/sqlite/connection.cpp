@@ -4,6 +4,7 @@
 #include "sqlite/connection.h"
 
 #include "sqlite/logging.h"
+#include "sqlite/schema.h"
 #include "sqlite/statement.h"
 
 #include <QDir>
@@ -74,7 +75,7 @@ bool Connection::open(const QString &fileName, Mode mode)
     const bool unwritableFolder =
         m_lastError.primary == SQLITE_CANTOPEN || m_lastError.extended == SQLITE_READONLY_DIRECTORY;
     const bool hasLog = QFileInfo(fileName + QLatin1String("-wal")).size() > 0;
-    if (mode == ReadOnly && unwritableFolder && !hasLog && QFileInfo(fileName).isFile()) {
+    if (mode != ReadWriteCreate && unwritableFolder && !hasLog && QFileInfo(fileName).isFile()) {
         closeHandle();
         if (openPath(immutableUri(fileName), SQLITE_OPEN_READONLY | SQLITE_OPEN_URI)
             && setPragmas(mode))
@@ -101,15 +102,29 @@ bool Connection::openPath(const QByteArray &path, int flags)
 
 bool Connection::setPragmas(Mode mode)
 {
-    if (mode == ReadOnly)
+    // SQLite refuses a file that is shorter than it says, unless the schema may be mended.
+    if (mode == Salvage && !execute("PRAGMA writable_schema = ON"))
+        return false;
+    if (mode != ReadWriteCreate)
         return execute("PRAGMA trusted_schema = OFF; SELECT count(*) FROM sqlite_master");
     return execute("PRAGMA trusted_schema = OFF; PRAGMA synchronous = FULL;"
-                   " PRAGMA foreign_keys = ON")
+                   " PRAGMA foreign_keys = ON; PRAGMA cache_size = -8000")
         && useWriteAheadLog();
+}
+
+/// Such a file is to be refused by its schema, unchanged.
+bool Connection::isOfAnotherProgram()
+{
+    Statement mark(*this,
+                   "SELECT application_id, (SELECT count(*) FROM sqlite_master)"
+                   " FROM pragma_application_id");
+    return mark.next() && mark.integer(0) != Schema::applicationId && mark.integer(1) > 0;
 }
 
 bool Connection::useWriteAheadLog()
 {
+    if (isOfAnotherProgram())
+        return true;
     // While another process turns the log on in a new file, SQLite answers "busy" at once instead
     // of being patient.
     QElapsedTimer patience;

@@ -33,6 +33,7 @@ public:
     enum Mode {
         ReadWriteCreate, ///< makes the folder (0700) and the file (0600) when they are missing
         ReadOnly, ///< never changes the file; a missing file is refused
+        Salvage, ///< as ReadOnly, and reads what is left of a file that was cut off
     };
 
     Connection();
@@ -41,7 +42,8 @@ public:
     Connection &operator=(const Connection &) = delete;
 
     /// Opens @p fileName with the pragmas that every process of the calendar uses: WAL, full
-    /// synchronisation, foreign keys, 5 s of patience with a lock. The schema is not looked at.
+    /// synchronisation, foreign keys, 5 s of patience with a lock. A database of another program
+    /// is opened as it is, for Schema to refuse.
     bool open(const QString &fileName, Mode mode = ReadWriteCreate);
     void close();
     bool isOpen() const { return m_database != nullptr; }
@@ -84,6 +86,7 @@ public:
 private:
     bool openPath(const QByteArray &path, int flags);
     bool setPragmas(Mode mode);
+    bool isOfAnotherProgram();
     bool useWriteAheadLog();
     void closeHandle();
 

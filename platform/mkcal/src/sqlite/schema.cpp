@@ -67,26 +67,6 @@ bool copyBeside(Connection &connection, int version)
     return QFile::setPermissions(copy, QFile::ReadOwner | QFile::WriteOwner);
 }
 
-/// Ours and not newer than what we know.
-bool isReadable(Connection &connection, qint64 version)
-{
-    const qint64 application = number(connection, "PRAGMA application_id");
-    if (version < 0 || application < 0)
-        return false;
-    if (application != Schema::applicationId) {
-        connection.noteError(SQLITE_NOTADB, QStringLiteral("this is not a calendar database"));
-        return false;
-    }
-    if (version > Schema::currentVersion) {
-        connection.noteError(SQLITE_MISMATCH,
-                             QStringLiteral("a newer version of the calendar wrote this file "
-                                            "(its format is %1, the newest known here is %2)")
-                                 .arg(version)
-                                 .arg(Schema::currentVersion));
-        return false;
-    }
-    return true;
-}
 } // namespace
 
 int Schema::version(Connection &connection)
@@ -101,21 +81,31 @@ bool Schema::prepare(Connection &connection)
         return false;
     if (tables == 0 && !runSteps(connection, -1))
         return false;
-    const int found = version(connection);
-    if (!isReadable(connection, found))
+    if (!isKnown(connection))
         return false;
+    const int found = version(connection);
     return found == currentVersion
         || (copyBeside(connection, found) && runSteps(connection, found));
 }
 
-bool Schema::check(Connection &connection)
+bool Schema::isKnown(Connection &connection)
 {
+    const qint64 application = number(connection, "PRAGMA application_id");
     const int found = version(connection);
-    if (!isReadable(connection, found))
+    if (found < 0 || application < 0)
         return false;
-    if (found < currentVersion)
+    if (application != applicationId) {
+        connection.noteError(SQLITE_NOTADB, QStringLiteral("this is not a calendar database"));
+        return false;
+    }
+    if (found > currentVersion) {
         connection.noteError(SQLITE_MISMATCH,
-                             QStringLiteral("the file has the older format %1").arg(found));
-    return found == currentVersion;
+                             QStringLiteral("a newer version of the calendar wrote this file "
+                                            "(its format is %1, the newest known here is %2)")
+                                 .arg(found)
+                                 .arg(currentVersion));
+        return false;
+    }
+    return true;
 }
 } // namespace mKCal

@@ -21,8 +21,8 @@ public:
     /// the file was written beside it (`<file>.v<version>-<UTC date and time>`). Refuses a newer
     /// version and a file of another program. The reason is in the connection's lastError().
     static bool prepare(Connection &connection);
-    /// Whether the file can be read as it is: ours, and of the current version.
-    static bool check(Connection &connection);
+    /// Whether the file is ours and of a version that is known here, be it an older one.
+    static bool isKnown(Connection &connection);
     /// -1 when it cannot be read.
     static int version(Connection &connection);
 };

@@ -20,4 +20,6 @@ set(MKCAL_SQLITE_SOURCES
     src/sqlite/remindertable.cpp
     src/sqlite/schema.cpp
     src/sqlite/schema.qrc
-    src/sqlite/statement.cpp)
+    src/sqlite/statement.cpp
+    src/sqlite/storagecheck.cpp
+    src/sqlite/storagerepair.cpp)

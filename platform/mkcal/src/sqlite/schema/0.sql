@@ -98,9 +98,11 @@ CREATE TABLE Components (
 );
 
 CREATE UNIQUE INDEX ComponentsLive ON Components(uid, recId) WHERE state = 0;
-CREATE INDEX ComponentsRetired ON Components(uid) WHERE state <> 0;
+CREATE INDEX ComponentsDeleted ON Components(uid) WHERE state = 1;
+CREATE INDEX ComponentsDeletedTime ON Components(stateTime) WHERE state = 1;
+CREATE INDEX ComponentsOverwritten ON Components(uid) WHERE state = 2;
 CREATE INDEX ComponentsSpan ON Components(span, start, end) WHERE state = 0;
-CREATE INDEX ComponentsSeries ON Components(until, start) WHERE state = 0 AND span = 2;
+CREATE INDEX ComponentsSeries ON Components(span, until, start) WHERE state = 0 AND span = 2;
 CREATE INDEX ComponentsOpen ON Components(start) WHERE state = 0 AND type = 1 AND completed = 0;
 CREATE INDEX ComponentsCompleted ON Components(completed)
     WHERE state = 0 AND type = 1 AND completed > 0;

@@ -1,0 +1,438 @@
+// SPDX-FileCopyrightText: 2026 The daskel authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "roundtripfeatures.h"
+#include "sqlite/componentreader.h"
+#include "sqlite/componentwriter.h"
+#include "sqlite/connection.h"
+#include "sqlite/schema.h"
+
+#include <mkcal/incidencecomparison.h>
+
+#include <KCalendarCore/Recurrence>
+
+#include <QTemporaryDir>
+#include <QtTest>
+
+using namespace KCalCore;
+using namespace mKCal;
+
+Q_DECLARE_METATYPE(mKCal::ComponentKeys)
+
+namespace
+{
+const QString notebook = QStringLiteral("nb");
+constexpr qint64 day = 86400;
+
+qint64 seconds(const QDateTime &dateTime)
+{
+    return dateTime.toSecsSinceEpoch();
+}
+
+ComponentKeys keys(int span, const QDateTime &start, const QDateTime &end)
+{
+    ComponentKeys keys;
+    keys.span = span;
+    keys.hasStart = true;
+    keys.start = seconds(start);
+    keys.end = seconds(end);
+    keys.until = keys.end;
+    return keys;
+}
+
+Event::Ptr eventAt(const QDateTime &start, const QDateTime &end, bool allDay = false)
+{
+    const Event::Ptr event = plainEvent();
+    event->setDtStart(start);
+    event->setDtEnd(end);
+    event->setAllDay(allDay);
+    return event;
+}
+
+Event::Ptr eventOf(const QString &uid)
+{
+    const Event::Ptr event = plainEvent();
+    event->setUid(uid);
+    const Alarm::Ptr alarm = event->newAlarm();
+    alarm->setDisplayAlarm(QStringLiteral("Wake up"));
+    event->addAttendee(Attendee(QStringLiteral("Anna"), QStringLiteral("a@b")));
+    return event;
+}
+} // namespace
+
+class TestSqliteComponents : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void computesKeys_data();
+    void computesKeys();
+    void boundsSeries_data();
+    void boundsSeries();
+    void identifiesOccurrences_data();
+    void identifiesOccurrences();
+    void tombstoneKeepsEverything();
+    void overwrittenVersionStaysBesideTheNewOne();
+    void refusesASecondLiveRow();
+    void purgesByTimeAndNotebook();
+    void movesFamilyToNotebook();
+    void updateMovesKeys();
+    void readsInOrderUntilStopped();
+
+private:
+    QVector<ComponentRow> rows(const QByteArray &condition, const SqlValues &values = {});
+    StoredComponent find(const QString &uid, const QString &recId = QString());
+    int count(const QByteArray &table);
+
+    QScopedPointer<QTemporaryDir> m_folder;
+    Connection m_connection;
+    std::unique_ptr<ComponentWriter> m_writer;
+};
+
+void TestSqliteComponents::init()
+{
+    m_folder.reset(new QTemporaryDir);
+    QVERIFY(m_connection.open(m_folder->filePath(QStringLiteral("calendar.db"))));
+    QVERIFY(Schema::prepare(m_connection));
+    m_writer = std::make_unique<ComponentWriter>(m_connection);
+}
+
+void TestSqliteComponents::cleanup()
+{
+    m_writer.reset();
+    m_connection.close();
+}
+
+QVector<ComponentRow> TestSqliteComponents::rows(const QByteArray &condition,
+                                                 const SqlValues &values)
+{
+    QVector<ComponentRow> rows;
+    ComponentReader reader(m_connection);
+    reader.read(condition, values, [&rows](const ComponentRow &row) {
+        rows.append(row);
+        return true;
+    });
+    return rows;
+}
+
+StoredComponent TestSqliteComponents::find(const QString &uid, const QString &recId)
+{
+    StoredComponent stored;
+    m_writer->find(uid, recId, &stored);
+    return stored;
+}
+
+int TestSqliteComponents::count(const QByteArray &table)
+{
+    Statement statement(m_connection, "SELECT count(*) FROM " + table);
+    return statement.next() ? statement.smallInteger(0) : -1;
+}
+
+void TestSqliteComponents::computesKeys_data()
+{
+    QTest::addColumn<Incidence::Ptr>("incidence");
+    QTest::addColumn<ComponentKeys>("expected");
+    const auto row = [](const char *name, const Incidence::Ptr &incidence, ComponentKeys expected) {
+        expected.type = incidence->type();
+        QTest::newRow(name) << incidence << expected;
+    };
+    const QDateTime ten = helsinki(2011, 5, 2, 10);
+    row("an hour", eventAt(ten, ten.addSecs(3600)),
+        keys(ComponentKeys::Short, ten, ten.addSecs(3600)));
+    row("no time at all", eventAt(ten, ten), keys(ComponentKeys::Short, ten, ten.addSecs(1)));
+    row("exactly two days", eventAt(ten, ten.addDays(2)),
+        keys(ComponentKeys::Short, ten, ten.addDays(2)));
+    row("longer", eventAt(ten, ten.addDays(2).addSecs(1)),
+        keys(ComponentKeys::Long, ten, ten.addDays(2).addSecs(1)));
+    row("all-day by its date", eventAt(floating(2011, 5, 2), floating(2011, 5, 3), true),
+        keys(ComponentKeys::Short, utc(2011, 5, 2, 0), utc(2011, 5, 3, 0)));
+    row("all-day in a zone by its date",
+        eventAt(helsinki(2011, 5, 2, 0), helsinki(2011, 5, 3, 0), true),
+        keys(ComponentKeys::Short, utc(2011, 5, 2, 0), utc(2011, 5, 3, 0)));
+    row("floating by its clock", eventAt(floating(2011, 5, 2, 10), floating(2011, 5, 2, 11)),
+        keys(ComponentKeys::Short, utc(2011, 5, 2, 10), utc(2011, 5, 2, 11)));
+
+    const Todo::Ptr due = plainTodo();
+    due->setDtStart(QDateTime());
+    row("to-do that is due", due,
+        keys(ComponentKeys::Short, due->dtDue(true), due->dtDue(true).addSecs(1)));
+    const Todo::Ptr backwards = plainTodo();
+    backwards->setDtDue(ten.addDays(-1), true);
+    row("to-do that is due before it starts", backwards,
+        keys(ComponentKeys::Short, ten.addDays(-1), ten.addSecs(1)));
+    const Todo::Ptr done = plainTodo();
+    done->setCompleted(utc(2011, 5, 3));
+    ComponentKeys doneKeys = keys(ComponentKeys::Short, ten, ten.addDays(1));
+    doneKeys.completed = seconds(utc(2011, 5, 3));
+    row("completed to-do", done, doneKeys);
+    const Todo::Ptr doneSometime = plainTodo();
+    doneSometime->setStatus(Incidence::StatusCompleted);
+    doneKeys.completed = 1;
+    row("to-do that was completed sometime", doneSometime, doneKeys);
+    const Todo::Ptr timeless = plainTodo();
+    timeless->setDtStart(QDateTime());
+    timeless->setDtDue(QDateTime(), true);
+    row("to-do without dates", timeless, ComponentKeys());
+}
+
+void TestSqliteComponents::computesKeys()
+{
+    QFETCH(Incidence::Ptr, incidence);
+    QFETCH(ComponentKeys, expected);
+    const ComponentKeys computed = ComponentKeys::of(*incidence);
+    QCOMPARE(computed.type, expected.type);
+    QCOMPARE(computed.span, expected.span);
+    QCOMPARE(computed.hasStart, expected.hasStart);
+    QCOMPARE(computed.start, expected.start);
+    QCOMPARE(computed.end, expected.end);
+    QCOMPARE(computed.until, expected.until);
+    QCOMPARE(computed.completed, expected.completed);
+}
+
+void TestSqliteComponents::boundsSeries_data()
+{
+    using Edit = std::function<void(Event &)>;
+    QTest::addColumn<Incidence::Ptr>("incidence");
+    QTest::addColumn<qint64>("earliest");
+    QTest::addColumn<qint64>("latest");
+    const qint64 start = seconds(helsinki(2011, 5, 2, 10));
+    const auto row = [](const char *name, const Edit &edit, qint64 earliest, qint64 latest) {
+        const Event::Ptr event = plainEvent();
+        edit(*event);
+        QTest::newRow(name) << event.staticCast<Incidence>() << earliest << latest;
+    };
+    row(
+        "for ever", [](Event &event) { event.recurrence()->setDaily(1); }, start,
+        ComponentKeys::endless);
+    row(
+        "ten times",
+        [](Event &event) {
+            event.recurrence()->setDaily(1);
+            event.recurrence()->setDuration(10);
+        },
+        start, start + 9 * day + 3600);
+    row(
+        "until",
+        [](Event &event) {
+            event.recurrence()->setDaily(1);
+            event.recurrence()->setEndDateTime(helsinki(2011, 6, 1));
+        },
+        start, seconds(helsinki(2011, 6, 1)) + 3600);
+    row(
+        "too often to be counted",
+        [](Event &event) {
+            event.recurrence()->setDaily(1);
+            event.recurrence()->setDuration(20000);
+        },
+        start, ComponentKeys::endless);
+    row(
+        "never",
+        [](Event &event) {
+            auto *rule = new RecurrenceRule;
+            rule->setRecurrenceType(RecurrenceRule::rYearly);
+            rule->setFrequency(1);
+            rule->setStartDt(event.dtStart());
+            rule->setByMonths({2});
+            rule->setByMonthDays({30});
+            rule->setDuration(5);
+            event.recurrence()->addRRule(rule);
+        },
+        start, ComponentKeys::endless);
+    row(
+        "single dates on both sides",
+        [](Event &event) {
+            event.recurrence()->setRDateTimes({helsinki(2010, 1, 1), helsinki(2012, 1, 1)});
+        },
+        seconds(helsinki(2010, 1, 1)), seconds(helsinki(2012, 1, 1)) + 3600);
+    row(
+        "long period",
+        [](Event &event) {
+            event.recurrence()->addRDateTimePeriod(
+                Period(helsinki(2011, 6, 1), helsinki(2011, 8, 1)));
+        },
+        start, seconds(helsinki(2011, 8, 1)));
+    row(
+        "exception that was moved back",
+        [](Event &event) { event.setRecurrenceId(helsinki(2011, 9, 1)); }, start,
+        seconds(helsinki(2011, 9, 1)) + 3600);
+    row(
+        "exception that was moved on",
+        [](Event &event) { event.setRecurrenceId(helsinki(2011, 1, 1)); },
+        seconds(helsinki(2011, 1, 1)), start + 3600);
+    row(
+        "exception for all that follow",
+        [](Event &event) {
+            event.setRecurrenceId(helsinki(2011, 1, 1));
+            event.setThisAndFuture(true);
+        },
+        seconds(helsinki(2011, 1, 1)), ComponentKeys::endless);
+}
+
+/// The bounds may be wider than what occurs, by the width of a zone, but never narrower.
+void TestSqliteComponents::boundsSeries()
+{
+    QFETCH(Incidence::Ptr, incidence);
+    QFETCH(qint64, earliest);
+    QFETCH(qint64, latest);
+    const ComponentKeys computed = ComponentKeys::of(*incidence);
+    QCOMPARE(computed.span, int(ComponentKeys::Recurring));
+    QCOMPARE(computed.start, earliest);
+    QVERIFY2(computed.until >= latest, qPrintable(QString::number(computed.until - latest)));
+    QVERIFY2(computed.until - latest <= day, qPrintable(QString::number(computed.until - latest)));
+}
+
+void TestSqliteComponents::identifiesOccurrences_data()
+{
+    QTest::addColumn<QDateTime>("recurrenceId");
+    QTest::addColumn<bool>("allDay");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("series") << QDateTime() << false << "";
+    QTest::newRow("a zone") << helsinki(2011, 5, 2, 1) << false << "20110501T220000Z";
+    QTest::newRow("UTC") << utc(2011, 5, 2, 1) << false << "20110502T010000Z";
+    QTest::newRow("milliseconds") << utc(2011, 5, 2, 1).addMSecs(999) << false
+                                  << "20110502T010000Z";
+    QTest::newRow("floating") << floating(2011, 5, 2, 9) << false << "20110502T090000";
+    QTest::newRow("all-day") << floating(2011, 5, 2) << true << "20110502";
+    QTest::newRow("all-day in a zone") << helsinki(2011, 5, 2, 0) << true << "20110502";
+    QTest::newRow("timed exception of an all-day series")
+        << floating(2011, 5, 2) << false << "20110502";
+}
+
+void TestSqliteComponents::identifiesOccurrences()
+{
+    QFETCH(QDateTime, recurrenceId);
+    QFETCH(bool, allDay);
+    QTEST(recIdText(recurrenceId, allDay), "text");
+    KDateTime same;
+    if (recurrenceId.isValid())
+        same = KDateTime(recurrenceId);
+    same.setDateOnly(allDay);
+    QTEST(recIdText(same), "text");
+}
+
+void TestSqliteComponents::tombstoneKeepsEverything()
+{
+    const Event::Ptr original = eventOf(QStringLiteral("a"));
+    QVERIFY(m_writer->insert(*original, notebook, 1));
+    QVERIFY(m_writer->retire(find(original->uid()), false, 2, 1000));
+    QCOMPARE(find(original->uid()).id, 0);
+    QVERIFY(rows("state = 0").isEmpty());
+
+    const QVector<ComponentRow> deleted = rows("state = 1 AND change > ?", {qint64(1)});
+    QCOMPARE(deleted.size(), 1);
+    QCOMPARE(deleted.first().state, ComponentState::Deleted);
+    QCOMPARE(deleted.first().stateTime, 1000);
+    QCOMPARE(deleted.first().change, 2);
+    QCOMPARE(deleted.first().notebook, notebook);
+    QCOMPARE(differences(*original, *deleted.first().incidence), QStringList());
+
+    QVERIFY(m_writer->insert(*deleted.first().incidence, notebook, 3));
+    QVERIFY(m_writer->removeTombstones(original->uid(), QString()));
+    QCOMPARE(count("Components"), 1);
+    QCOMPARE(count("Alarm"), 1);
+    QCOMPARE(count("Attendee"), 1);
+}
+
+void TestSqliteComponents::overwrittenVersionStaysBesideTheNewOne()
+{
+    const Event::Ptr theirs = eventOf(QStringLiteral("a"));
+    theirs->setSummary(QStringLiteral("theirs"), false);
+    const Event::Ptr ours(theirs->clone());
+    ours->setSummary(QStringLiteral("ours"), false);
+    QVERIFY(m_writer->insert(*theirs, notebook, 1));
+    QVERIFY(m_writer->retire(find(theirs->uid()), true, 2, 1000));
+    QVERIFY(m_writer->insert(*ours, notebook, 2));
+    QCOMPARE(rows("state = 0").first().incidence->summary(), QStringLiteral("ours"));
+    const QVector<ComponentRow> overwritten = rows("state = 2 AND uid = ?", {theirs->uid()});
+    QCOMPARE(overwritten.size(), 1);
+    QCOMPARE(differences(*theirs, *overwritten.first().incidence), QStringList());
+}
+
+void TestSqliteComponents::refusesASecondLiveRow()
+{
+    QVERIFY(m_writer->insert(*eventOf(QStringLiteral("a")), notebook, 1));
+    QVERIFY(!m_writer->insert(*eventOf(QStringLiteral("a")), notebook, 2));
+    const Event::Ptr exception = eventOf(QStringLiteral("a"));
+    exception->setRecurrenceId(helsinki(2011, 6, 1));
+    QVERIFY(m_writer->insert(*exception, notebook, 3));
+    const StoredComponent stored = find(exception->uid(), recIdText(*exception));
+    QVERIFY(stored.id != 0);
+    QCOMPARE(stored.change, 3);
+    QString holder;
+    QVERIFY(m_writer->notebookOf(exception->uid(), &holder));
+    QCOMPARE(holder, notebook);
+    QVERIFY(m_writer->notebookOf(QStringLiteral("b"), &holder));
+    QCOMPARE(holder, QString());
+}
+
+void TestSqliteComponents::purgesByTimeAndNotebook()
+{
+    const QString other = QStringLiteral("other");
+    for (const QString &uid : {QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")})
+        QVERIFY(m_writer->insert(*eventOf(uid), uid == QLatin1String("c") ? other : notebook, 1));
+    QVERIFY(m_writer->retire(find(QStringLiteral("a")), false, 2, 1000));
+    QVERIFY(m_writer->retire(find(QStringLiteral("b")), true, 2, 2000));
+    QVERIFY(m_writer->retireNotebook(other, 2, 1000));
+    QCOMPARE(rows("state <> 0").size(), 3);
+    QVERIFY(m_writer->purge(1500, notebook));
+    QCOMPARE(rows("state <> 0").size(), 2);
+    QVERIFY(m_writer->purge(1500, QString()));
+    QCOMPARE(rows("state <> 0").size(), 1);
+    QCOMPARE(count("Alarm"), 1);
+}
+
+void TestSqliteComponents::movesFamilyToNotebook()
+{
+    const Event::Ptr series = eventOf(QStringLiteral("a"));
+    const Event::Ptr exception = eventOf(QStringLiteral("a"));
+    exception->setRecurrenceId(helsinki(2011, 6, 1));
+    QVERIFY(m_writer->insert(*series, notebook, 1));
+    QVERIFY(m_writer->insert(*exception, notebook, 1));
+    QVERIFY(m_writer->moveToNotebook(series->uid(), QStringLiteral("other"), 5));
+    QCOMPARE(rows("state = 0 AND notebook = 'other' AND change = 5").size(), 2);
+}
+
+void TestSqliteComponents::updateMovesKeys()
+{
+    const Event::Ptr moved = eventOf(QStringLiteral("a"));
+    QVERIFY(m_writer->insert(*moved, notebook, 1));
+    moved->setDtStart(helsinki(2020, 1, 1));
+    moved->setDtEnd(helsinki(2020, 1, 9));
+    QVERIFY(m_writer->update(find(moved->uid()), *moved, QStringLiteral("other"), 2));
+    QCOMPARE(rows("state = 0 AND span = 1 AND start = ?", {seconds(moved->dtStart())}).size(), 1);
+    QCOMPARE(find(moved->uid()).notebook, QStringLiteral("other"));
+    moved->recurrence()->setDaily(1);
+    QVERIFY(m_writer->update(find(moved->uid()), *moved, notebook, 3));
+    QCOMPARE(rows("state = 0 AND span = 2 AND until > ?", {seconds(utc(2200, 1, 1))}).size(), 1);
+}
+
+void TestSqliteComponents::readsInOrderUntilStopped()
+{
+    for (int i = 0; i < 5; ++i)
+        QVERIFY(m_writer->insert(*eventOf(QString::number(i)), notebook, i));
+    QStringList uids;
+    ComponentReader reader(m_connection);
+    const auto firstTwo = [&uids](const ComponentRow &row) {
+        uids.append(row.incidence->uid());
+        return uids.size() < 2;
+    };
+    QVERIFY(reader.read("state = 0 ORDER BY change DESC", {}, firstTwo));
+    QCOMPARE(uids, QStringList({QStringLiteral("4"), QStringLiteral("3")}));
+    // Nothing is held open: the write-ahead log can be emptied.
+    Statement checkpoint(m_connection, "PRAGMA wal_checkpoint(TRUNCATE)");
+    QVERIFY(checkpoint.next());
+    QCOMPARE(checkpoint.integer(0), 0);
+    QVERIFY(!reader.read("nonsense", {}, firstTwo));
+}
+
+int main(int argc, char *argv[])
+{
+    qputenv("TZ", "Europe/Helsinki");
+    tzset();
+    QCoreApplication application(argc, argv);
+    TestSqliteComponents test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_sqlitecomponents.moc"

@@ -1,0 +1,210 @@
+// SPDX-FileCopyrightText: 2026 The daskel authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "sqlite/connection.h"
+#include "sqlite/statement.h"
+
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <sqlite3.h>
+
+using namespace mKCal;
+
+class TestSqliteConnection : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void bindsAndReads_data();
+    void bindsAndReads();
+    void namesWhatCannotBeOpened_data();
+    void namesWhatCannotBeOpened();
+    void transactionIsUndoneUnlessCommitted();
+    void lockedDatabase();
+    void fullDisk();
+    void noticesForeignCommits();
+    void noticesThatTheFileIsGone();
+    void readsWithoutWriting();
+
+private:
+    int rows(Connection &connection);
+
+    QScopedPointer<QTemporaryDir> m_folder;
+    QString m_file;
+    Connection m_connection;
+};
+
+void TestSqliteConnection::init()
+{
+    m_folder.reset(new QTemporaryDir);
+    m_file = m_folder->filePath(QStringLiteral("calendar.db"));
+    QVERIFY(m_connection.open(m_file));
+    QVERIFY(m_connection.execute("CREATE TABLE T(value)"));
+    m_connection.clearErrors();
+}
+
+void TestSqliteConnection::cleanup()
+{
+    m_connection.close();
+}
+
+int TestSqliteConnection::rows(Connection &connection)
+{
+    Statement count(connection, "SELECT count(*) FROM T");
+    return count.next() ? count.smallInteger(0) : -1;
+}
+
+Q_DECLARE_METATYPE(mKCal::SqlValue)
+
+void TestSqliteConnection::bindsAndReads_data()
+{
+    QTest::addColumn<SqlValue>("value");
+    QTest::addColumn<QString>("type");
+    QTest::newRow("null") << SqlValue() << "null";
+    QTest::newRow("null text") << SqlValue(QString()) << "null";
+    QTest::newRow("empty text") << SqlValue(QStringLiteral("")) << "text";
+    QTest::newRow("text") << SqlValue(QStringLiteral("ä 🎂")) << "text";
+    QTest::newRow("integer") << SqlValue(std::numeric_limits<qint64>::min()) << "integer";
+    QTest::newRow("real") << SqlValue(0.1) << "real";
+    QTest::newRow("bytes") << SqlValue(QByteArray("\0\xff", 2)) << "blob";
+    QTest::newRow("no bytes") << SqlValue(QByteArray("")) << "blob";
+}
+
+void TestSqliteConnection::bindsAndReads()
+{
+    QFETCH(SqlValue, value);
+    Statement insert(m_connection, "INSERT INTO T VALUES (?)");
+    insert.bindAll({value});
+    QVERIFY(insert.run());
+    QCOMPARE(m_connection.changes(), 1);
+    Statement select(m_connection, "SELECT value, typeof(value) FROM T");
+    QVERIFY(select.next());
+    QTEST(select.text(1), "type");
+    if (std::holds_alternative<QString>(value)) {
+        QCOMPARE(select.text(0), std::get<QString>(value));
+        QCOMPARE(select.text(0).isNull(), std::get<QString>(value).isNull());
+    } else if (std::holds_alternative<QByteArray>(value)) {
+        QCOMPARE(select.bytes(0), std::get<QByteArray>(value));
+        QVERIFY(select.isBlob(0));
+    } else if (std::holds_alternative<qint64>(value)) {
+        QCOMPARE(select.integer(0), std::get<qint64>(value));
+        QCOMPARE(select.smallInteger(0), std::numeric_limits<int>::min());
+    } else if (std::holds_alternative<double>(value)) {
+        QCOMPARE(select.real(0), std::get<double>(value));
+    } else {
+        QVERIFY(select.isNull(0));
+    }
+}
+
+void TestSqliteConnection::namesWhatCannotBeOpened_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<int>("mode");
+    QTest::addColumn<int>("code");
+    QTest::newRow("a folder") << "folder" << int(Connection::ReadWriteCreate) << SQLITE_CANTOPEN;
+    QTest::newRow("under a file") << "calendar.db/x.db" << int(Connection::ReadWriteCreate)
+                                  << SQLITE_CANTOPEN;
+    QTest::newRow("missing, to be read")
+        << "none.db" << int(Connection::ReadOnly) << SQLITE_CANTOPEN;
+}
+
+void TestSqliteConnection::namesWhatCannotBeOpened()
+{
+    QFETCH(QString, name);
+    QFETCH(int, mode);
+    QVERIFY(QDir(m_folder->path()).mkdir(QStringLiteral("folder")));
+    const QString file = m_folder->filePath(name);
+    Connection connection;
+    QVERIFY(!connection.open(file, Connection::Mode(mode)));
+    QVERIFY(!connection.isOpen());
+    QTEST(connection.lastError().primary, "code");
+    QVERIFY(connection.lastError().message.startsWith(file));
+    QVERIFY(!connection.execute("SELECT 1"));
+    QVERIFY(!Statement(connection, "SELECT 1").run());
+}
+
+void TestSqliteConnection::transactionIsUndoneUnlessCommitted()
+{
+    {
+        Transaction transaction(m_connection);
+        QVERIFY(transaction.isActive());
+        QVERIFY(m_connection.execute("INSERT INTO T VALUES (1)"));
+    }
+    QCOMPARE(rows(m_connection), 0);
+    Transaction transaction(m_connection);
+    QVERIFY(m_connection.execute("INSERT INTO T VALUES (1)"));
+    QVERIFY(transaction.commit());
+    QVERIFY(!m_connection.inTransaction());
+    QCOMPARE(rows(m_connection), 1);
+}
+
+void TestSqliteConnection::lockedDatabase()
+{
+    Connection other;
+    QVERIFY(other.open(m_file));
+    const Transaction theirs(other);
+    QVERIFY(theirs.isActive());
+    sqlite3_busy_timeout(m_connection.handle(), 0);
+    Transaction ours(m_connection);
+    QVERIFY(!ours.isActive());
+    QVERIFY(!ours.commit());
+    QCOMPARE(m_connection.errorCodes(), QList<int>{SQLITE_BUSY});
+}
+
+void TestSqliteConnection::fullDisk()
+{
+    QVERIFY(m_connection.execute("PRAGMA max_page_count = 20"));
+    Statement insert(m_connection, "INSERT INTO T VALUES (?)");
+    {
+        Transaction transaction(m_connection);
+        bool written = true;
+        for (int i = 0; written && i < 100; ++i) {
+            insert.bind(1, QByteArray(4000, 'x'));
+            written = insert.run();
+        }
+        QVERIFY(!written);
+        QCOMPARE(insert.code() & 0xff, SQLITE_FULL);
+        QVERIFY(!m_connection.lastError().message.isEmpty());
+    }
+    QVERIFY(!m_connection.inTransaction());
+    QCOMPARE(m_connection.errorCodes(), QList<int>{SQLITE_FULL});
+    QCOMPARE(rows(m_connection), 0);
+    // The same statement works again once there is room.
+    QVERIFY(m_connection.execute("PRAGMA max_page_count = 1000"));
+    QVERIFY(insert.run());
+    QVERIFY(!insert.failed());
+}
+
+void TestSqliteConnection::noticesForeignCommits()
+{
+    Connection other;
+    QVERIFY(other.open(m_file));
+    const qint64 before = m_connection.dataVersion();
+    QVERIFY(m_connection.execute("INSERT INTO T VALUES (1)"));
+    QCOMPARE(m_connection.dataVersion(), before);
+    QVERIFY(other.execute("INSERT INTO T VALUES (2)"));
+    QVERIFY(m_connection.dataVersion() != before);
+}
+
+void TestSqliteConnection::noticesThatTheFileIsGone()
+{
+    QVERIFY(!m_connection.hasMoved());
+    QVERIFY(QFile::rename(m_file, m_file + QLatin1String(".away")));
+    QVERIFY(m_connection.hasMoved());
+}
+
+void TestSqliteConnection::readsWithoutWriting()
+{
+    QVERIFY(m_connection.execute("INSERT INTO T VALUES (1)"));
+    Connection reading;
+    QVERIFY(reading.open(m_file, Connection::ReadOnly));
+    QCOMPARE(rows(reading), 1);
+    QVERIFY(!reading.execute("INSERT INTO T VALUES (2)"));
+    QCOMPARE(reading.lastError().primary, SQLITE_READONLY);
+}
+
+QTEST_GUILESS_MAIN(TestSqliteConnection)
+
+#include "tst_sqliteconnection.moc"
