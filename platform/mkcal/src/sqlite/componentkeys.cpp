@@ -18,7 +18,7 @@ namespace
 constexpr qint64 daySeconds = 86400;
 
 /// A longer count is not unrolled to learn its end: that costs more than loading the series.
-constexpr int longestCountedUnroll = 1000;
+constexpr int longestCountedUnroll = 400;
 
 struct Bounds {
     QDateTime start;

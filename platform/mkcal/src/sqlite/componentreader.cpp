@@ -23,7 +23,7 @@ using namespace ComponentColumn;
 
 namespace
 {
-constexpr int IdColumn = firstKey; // after the last one that is read
+constexpr int idColumn = firstKey; // after the last one that is read
 }
 
 class ComponentReaderPrivate
@@ -170,7 +170,7 @@ void ComponentReaderPrivate::readNumbers(const Statement &row, Incidence *incide
 
 bool ComponentReaderPrivate::readRow(const Statement &row, ComponentRow *component)
 {
-    component->id = row.integer(IdColumn);
+    component->id = row.integer(idColumn);
     component->notebook = row.text(Notebook);
     component->change = row.integer(Change);
     component->state = ComponentState(enumeration(row, State, int(ComponentState::Overwritten)));

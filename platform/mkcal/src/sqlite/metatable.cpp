@@ -47,7 +47,7 @@ QString MetaTable::defaultNotebook()
     m_read.bind(1, defaultNotebookKey);
     if (!m_read.next())
         return {};
-    const QString uid = m_read.text(0);
+    QString uid = m_read.text(0);
     m_read.reset();
     return uid;
 }

@@ -73,8 +73,8 @@ Notebook::Ptr readNotebook(const Statement &row)
                                             &Notebook::setTodosAllowed,
                                             &Notebook::setJournalsAllowed};
     const auto flag = [&row](int column) { return row.integer(column) != 0; };
-    const auto notebook = Notebook::Ptr::create(row.text(19), row.text(0), row.text(1), row.text(2),
-                                                flag(3), flag(4), flag(5), flag(6), flag(7));
+    auto notebook = Notebook::Ptr::create(row.text(19), row.text(0), row.text(1), row.text(2),
+                                          flag(3), flag(4), flag(5), flag(6), flag(7));
     int column = 8;
     for (const Setter set : allowances)
         (notebook.data()->*set)(flag(column++));
