@@ -15,17 +15,6 @@ ExtendedCalendarPrivate::KnownNotebook *ExtendedCalendarPrivate::knownNotebook(c
     return known == notebooks.end() ? nullptr : &*known;
 }
 
-void ExtendedCalendarPrivate::putInNotebook(const QString &uid, const QString &notebook)
-{
-    QString &current = families[uid].notebook;
-    const auto former = uidsOfNotebook.find(current);
-    if (former != uidsOfNotebook.end() && former->remove(uid) && former->isEmpty()) {
-        uidsOfNotebook.erase(former);
-    }
-    current = notebook;
-    uidsOfNotebook[notebook].insert(uid);
-}
-
 bool ExtendedCalendar::addNotebook(const QString &uid, bool isVisible)
 {
     if (uid.isEmpty() || hasValidNotebook(uid)) {
@@ -49,13 +38,10 @@ bool ExtendedCalendar::deleteNotebook(const QString &uid)
     if (!hasValidNotebook(uid)) {
         return false;
     }
-    const QSet<QString> uids = d->uidsOfNotebook.value(uid);
-    for (const QString &member : uids) {
-        const auto leaving = d->families.value(member).members();
-        for (const KCalCore::Incidence::Ptr &incidence : leaving) {
-            d->takeSilently(incidence);
-        }
-        d->forgetIfEmpty(member);
+    const auto leaving = incidences(uid);
+    for (const KCalCore::Incidence::Ptr &incidence : leaving) {
+        d->takeSilently(incidence);
+        d->forgetIfEmpty(incidence->uid());
     }
     if (d->defaultNotebook == uid) {
         d->defaultNotebook.clear();
@@ -94,9 +80,10 @@ bool ExtendedCalendar::setNotebook(const KCalCore::Incidence::Ptr &incidence,
     if (notebook(incidence) == notebookUid) {
         return true;
     }
-    d->putInNotebook(incidence->uid(), notebookUid);
+    Family &family = d->families[incidence->uid()];
+    family.notebook = notebookUid;
     setModified(true);
-    const auto moved = d->families.value(incidence->uid()).members();
+    const auto moved = family.members();
     for (const KCalCore::Incidence::Ptr &member : moved) {
         notifyIncidenceChanged(member);
     }
@@ -125,34 +112,19 @@ QStringList ExtendedCalendar::notebooks() const
 
 KCalCore::Incidence::List ExtendedCalendar::incidences(const QString &notebookUid) const
 {
-    QVector<const DateIndex::Entry *> entries;
-    const QSet<QString> uids = d->uidsOfNotebook.value(notebookUid);
-    for (const QString &uid : uids) {
-        const auto members = d->families.value(uid).members();
-        for (const KCalCore::Incidence::Ptr &incidence : members) {
-            entries.append(d->dates.find(incidence.data()));
+    KCalCore::Incidence::List list;
+    d->dates.visitAll([&](const DateIndex::Entry &entry) {
+        if (notebook(entry.uid) == notebookUid) {
+            list.append(entry.incidence);
         }
-    }
-    std::sort(entries.begin(), entries.end(), [](const auto *a, const auto *b) {
-        return a->isDated != b->isDated ? a->isDated : *a < *b;
     });
-    KCalCore::Incidence::List incidences;
-    incidences.reserve(entries.size());
-    for (const DateIndex::Entry *entry : qAsConst(entries)) {
-        incidences.append(entry->incidence);
-    }
-    return incidences;
+    return list;
 }
 
 void ExtendedCalendar::clearNotebookAssociations()
 {
     for (auto family = d->families.begin(); family != d->families.end(); ++family) {
         family->notebook.clear();
-    }
-    const QStringList uids = d->families.keys();
-    d->uidsOfNotebook.clear();
-    if (!uids.isEmpty()) {
-        d->uidsOfNotebook.insert(QString(), QSet<QString>(uids.cbegin(), uids.cend()));
     }
 }
 

@@ -100,7 +100,7 @@ auto acceptWithin(const DateIndex::Range &range, bool inclusive)
 DateIndex::Range ExtendedCalendarPrivate::range(const QDate &start, const QDate &end,
                                                 const QTimeZone &zone) const
 {
-    const TimeSpan wall = daysOf(start, end, clock());
+    const TimeSpan wall = daysOf(start, end, clock);
     const bool isOwnZone = !zone.isValid() || zone == q->timeZone();
     return {isOwnZone ? wall : daysOf(start, end, ZoneClock(zone)), wall};
 }
@@ -113,7 +113,7 @@ bool ExtendedCalendarPrivate::occursIn(const DateIndex::Entry &entry,
     }
     const TimeSpan &days = entry.isWallBound ? range.wall : range.moments;
     bool occurs = false;
-    SeriesOccurrences(entry.incidence, exceptionsOf(entry.uid), clock())
+    SeriesOccurrences(entry.incidence, exceptionsOf(entry.uid), clock)
         .visit(days.start, days.end, [&occurs](const Occurrence &, const SeriesWalk &) {
             occurs = true;
             return SeriesOccurrences::Stop;

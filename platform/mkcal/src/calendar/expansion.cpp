@@ -135,7 +135,7 @@ ExtendedCalendar::expandRecurrences(KCalCore::Incidence::List *incidences, const
             handedOver[incidence->uid()].append(incidence);
         }
     }
-    const ZoneClock clock = d->clock();
+    const ZoneClock &clock = d->clock;
     Expansion expansion(window, maxExpand, clock);
     for (const KCalCore::Incidence::Ptr &incidence : qAsConst(*incidences)) {
         if (!incidence || !anchor(*incidence).isValid()) {
@@ -161,7 +161,7 @@ ExtendedCalendar::expandMultiDay(const ExpandedIncidenceList &list, const QDate 
                                  const QDate &end, int maxExpand, bool merge,
                                  bool *expandLimitHit) const
 {
-    const ZoneClock clock = d->clock();
+    const ZoneClock &clock = d->clock;
     const TimeSpan window{clock.dayStart(start), clock.dayStart(end)};
     QVector<Occurrence> pieces;
     QHash<const KCalCore::Incidence *, int> counts;

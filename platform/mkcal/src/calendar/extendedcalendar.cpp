@@ -28,7 +28,10 @@ KCalCore::Incidence::List Family::members() const
     return members;
 }
 
-ExtendedCalendarPrivate::ExtendedCalendarPrivate(ExtendedCalendar *calendar) : q(calendar) { }
+ExtendedCalendarPrivate::ExtendedCalendarPrivate(ExtendedCalendar *calendar)
+    : q(calendar), clock(calendar->timeZone())
+{
+}
 
 KCalCore::Incidence::Ptr ExtendedCalendarPrivate::find(const QString &uid,
                                                        const KDateTime &recurrenceId) const
@@ -40,7 +43,7 @@ KCalCore::Incidence::Ptr ExtendedCalendarPrivate::find(const QString &uid,
     if (!recurrenceId.isValid()) {
         return family->series;
     }
-    const QTimeZone zone = q->timeZone();
+    const QTimeZone zone = clock.zone();
     const bool isAllDaySeries = family->series && family->series->allDay();
     for (const KCalCore::Incidence::Ptr &exception : family->exceptions) {
         const bool byDate = recurrenceId.isDateOnly() || isAllDaySeries || exception->allDay();
@@ -73,14 +76,14 @@ void ExtendedCalendarPrivate::enter(const KCalCore::Incidence::Ptr &incidence,
 {
     Family &family = families[incidence->uid()];
     if (family.isEmpty() || !incidence->hasRecurrenceId()) {
-        putInNotebook(incidence->uid(), notebook);
+        family.notebook = notebook;
     }
     if (incidence->hasRecurrenceId()) {
         family.exceptions.append(incidence);
     } else {
         family.series = incidence;
     }
-    index(incidence);
+    index(incidence, family);
 }
 
 void ExtendedCalendarPrivate::leave(const KCalCore::Incidence::Ptr &incidence)
@@ -92,7 +95,7 @@ void ExtendedCalendarPrivate::leave(const KCalCore::Incidence::Ptr &incidence)
     } else {
         family.exceptions.removeOne(incidence);
         if (family.series && incidence->thisAndFuture()) {
-            index(family.series);
+            index(family.series, family);
         }
     }
 }
@@ -110,17 +113,17 @@ void ExtendedCalendarPrivate::takeSilently(const KCalCore::Incidence::Ptr &incid
 void ExtendedCalendarPrivate::forgetIfEmpty(const QString &uid)
 {
     const auto family = families.find(uid);
-    if (family == families.end() || !family->isEmpty()) {
-        return;
+    if (family != families.end() && family->isEmpty()) {
+        families.erase(family);
     }
-    const auto uids = uidsOfNotebook.find(family->notebook);
-    if (uids != uidsOfNotebook.end() && uids->remove(uid) && uids->isEmpty()) {
-        uidsOfNotebook.erase(uids);
-    }
-    families.erase(family);
 }
 
 void ExtendedCalendarPrivate::index(const KCalCore::Incidence::Ptr &incidence)
+{
+    index(incidence, families.value(incidence->uid()));
+}
+
+void ExtendedCalendarPrivate::index(const KCalCore::Incidence::Ptr &incidence, const Family &family)
 {
     DateIndex::Entry entry;
     entry.uid = incidence->uid();
@@ -132,19 +135,17 @@ void ExtendedCalendarPrivate::index(const KCalCore::Incidence::Ptr &incidence)
     if (entry.isDated) {
         entry.isWallBound = isWallBound(*incidence);
         entry.recurs = incidence->recurs();
-        entry.first = spanOf(*incidence, clock());
+        entry.first = spanOf(*incidence, clock);
         entry.until = entry.first.end;
         if (entry.recurs) {
-            const TimeSpan alive =
-                lifeOfSeries(*incidence, families.value(entry.uid).exceptions, clock());
+            const TimeSpan alive = lifeOfSeries(*incidence, family.exceptions, clock);
             entry.first.start = alive.start;
             entry.until = alive.end;
         }
     }
     dates.insert(entry);
-    const KCalCore::Incidence::Ptr series = families.value(entry.uid).series;
-    if (incidence->hasRecurrenceId() && incidence->thisAndFuture() && series) {
-        index(series);
+    if (incidence->hasRecurrenceId() && incidence->thisAndFuture() && family.series) {
+        index(family.series, family);
     }
 }
 
@@ -154,7 +155,7 @@ void ExtendedCalendarPrivate::indexAgain()
     for (const Family &family : qAsConst(families)) {
         const auto members = family.members();
         for (const KCalCore::Incidence::Ptr &incidence : members) {
-            index(incidence);
+            index(incidence, family);
         }
     }
 }
@@ -184,7 +185,6 @@ void ExtendedCalendar::close()
 {
     d->dates.clear();
     d->families.clear();
-    d->uidsOfNotebook.clear();
     MemoryCalendar::close();
 }
 
@@ -340,5 +340,6 @@ void ExtendedCalendar::removeRelations(const KCalCore::Incidence::Ptr &incidence
 void ExtendedCalendar::doSetTimeZone(const QTimeZone &timeZone)
 {
     MemoryCalendar::doSetTimeZone(timeZone);
+    d->clock = ZoneClock(timeZone);
     d->indexAgain();
 }

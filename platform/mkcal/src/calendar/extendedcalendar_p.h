@@ -8,7 +8,7 @@
 
 #include <mkcal/extendedcalendar.h>
 
-#include <QSet>
+#include <QHash>
 
 namespace mKCal
 {
@@ -44,7 +44,6 @@ public:
     /// Takes an incidence out as if it had never been there: nobody is told, exceptions stay.
     void takeSilently(const KCalCore::Incidence::Ptr &incidence);
     void forgetIfEmpty(const QString &uid);
-    void putInNotebook(const QString &uid, const QString &notebook);
     KnownNotebook *knownNotebook(const QString &uid);
 
     // Series
@@ -53,16 +52,16 @@ public:
                                              const KCalCore::Incidence::Ptr &exception);
 
     // Index
-    ZoneClock clock() const { return ZoneClock(q->timeZone()); }
     void index(const KCalCore::Incidence::Ptr &incidence);
+    void index(const KCalCore::Incidence::Ptr &incidence, const Family &family);
     void indexAgain();
     DateIndex::Range range(const QDate &start, const QDate &end, const QTimeZone &zone) const;
     bool occursIn(const DateIndex::Entry &entry, const DateIndex::Range &range) const;
 
     ExtendedCalendar *q;
+    ZoneClock clock;
     DateIndex dates;
     QHash<QString, Family> families;
-    QHash<QString, QSet<QString>> uidsOfNotebook;
     QVector<KnownNotebook> notebooks; ///< in the order in which they were added
     QString defaultNotebook;
     bool keepsExceptions = false; ///< while a series is exchanged for another version of it

@@ -95,7 +95,7 @@ ExtendedCalendarPrivate::detachException(const KCalCore::Incidence::Ptr &series,
     const auto detached = loneCopy(*exception);
     KCalCore::Incidence::Ptr carried;
     if (exception->thisAndFuture()) {
-        const SeriesScale scale(*series, clock());
+        const SeriesScale scale(*series, clock);
         const qint64 key = scale.keyOf(exception->recurrenceId());
         const QDateTime next = freeStart(*series, exceptionsOf(series->uid()), scale, key + 1);
         if (next.isValid()) {
@@ -125,12 +125,12 @@ ExtendedCalendar::dissociateSingleOccurrence(const KCalCore::Incidence::Ptr &inc
     }
     Occurrence found;
     QDateTime recurrenceId;
-    const SeriesOccurrences occurrences(incidence, d->exceptionsOf(incidence->uid()), d->clock());
+    const SeriesOccurrences occurrences(incidence, d->exceptionsOf(incidence->uid()), d->clock);
     if (!occurrences.find(start, &found, &recurrenceId)) {
         return {};
     }
     const auto detached = loneCopy(*found.incidence);
-    moveTo(detached.data(), found.span, d->clock());
+    moveTo(detached.data(), found.span, d->clock);
     exclude(incidence.data(), recurrenceId);
     addIncidence(detached, notebook(incidence));
     return detached;
@@ -142,7 +142,7 @@ KCalCore::Incidence::Ptr ExtendedCalendar::splitSeries(const KCalCore::Incidence
     if (!d->contains(incidence) || !incidence->recurs() || !firstLater.isValid()) {
         return {};
     }
-    const ZoneClock clock = d->clock();
+    const ZoneClock &clock = d->clock;
     const SeriesScale scale(*incidence, clock);
     const KCalCore::Incidence::List exceptions = d->exceptionsOf(incidence->uid());
     Occurrence found;

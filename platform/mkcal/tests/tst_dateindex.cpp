@@ -1,0 +1,153 @@
+// SPDX-FileCopyrightText: 2026 The daskel authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "calendar/dateindex.h"
+
+#include <KCalendarCore/Event>
+
+#include <QRandomGenerator>
+#include <QtTest>
+
+#include <algorithm>
+
+using mKCal::DateIndex;
+using mKCal::Msecs;
+using mKCal::TimeSpan;
+
+namespace
+{
+constexpr Msecs Hour = 3600000;
+
+DateIndex::Entry entry(const QString &uid, Msecs start, Msecs end)
+{
+    DateIndex::Entry entry;
+    entry.first = {start, end};
+    entry.until = end;
+    entry.uid = uid;
+    entry.incidence.reset(new KCalCore::Event);
+    entry.incidence->setUid(uid);
+    return entry;
+}
+
+QStringList found(const DateIndex &index, Msecs from, Msecs to)
+{
+    QStringList uids;
+    index.visit({{from, to}, {from, to}},
+                [&uids](const DateIndex::Entry &entry) { uids.append(entry.uid); });
+    return uids;
+}
+} // namespace
+
+class tst_dateindex : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void overlap_data();
+    void overlap();
+    void wallAndMoment();
+    void undatedComesLast();
+    void sameAsSearchingAll();
+};
+
+void tst_dateindex::overlap_data()
+{
+    QTest::addColumn<Msecs>("start");
+    QTest::addColumn<Msecs>("end");
+    QTest::addColumn<bool>("isFound");
+
+    // Asked for is the time from hour 100 to hour 110.
+    QTest::newRow("within") << 101 * Hour << 102 * Hour << true;
+    QTest::newRow("ends where it begins") << 90 * Hour << 100 * Hour << false;
+    QTest::newRow("reaches in") << 90 * Hour << 100 * Hour + 1 << true;
+    QTest::newRow("begins where it ends") << 110 * Hour << 120 * Hour << false;
+    QTest::newRow("moment at its begin") << 100 * Hour << 100 * Hour << true;
+    QTest::newRow("moment at its end") << 110 * Hour << 110 * Hour << false;
+    QTest::newRow("just two days") << 52 * Hour + 1 << 100 * Hour + 1 << true;
+    QTest::newRow("longer, from before") << -900 * Hour << 101 * Hour << true;
+    QTest::newRow("longer, over before") << -900 * Hour << 100 * Hour << false;
+}
+
+void tst_dateindex::overlap()
+{
+    QFETCH(Msecs, start);
+    QFETCH(Msecs, end);
+    DateIndex index;
+    const DateIndex::Entry single = entry("a", start, end);
+    index.insert(single);
+    QTEST(!found(index, 100 * Hour, 110 * Hour).isEmpty(), "isFound");
+
+    // The same for a series that is alive as long.
+    DateIndex::Entry series = single;
+    series.recurs = true;
+    series.first.end = start;
+    index.insert(series);
+    QCOMPARE(index.size(), 1);
+    QTEST(!found(index, 100 * Hour, 110 * Hour).isEmpty(), "isFound");
+    index.remove(series.incidence.data());
+    QVERIFY(found(index, 100 * Hour, 110 * Hour).isEmpty());
+}
+
+void tst_dateindex::wallAndMoment()
+{
+    DateIndex index;
+    DateIndex::Entry wall = entry("wall", 100 * Hour, 124 * Hour);
+    wall.isWallBound = true;
+    index.insert(wall);
+    index.insert(entry("moment", 100 * Hour, 124 * Hour));
+    QStringList uids;
+    // The days of a zone ten hours to the west.
+    index.visit({{134 * Hour, 158 * Hour}, {124 * Hour - 1, 148 * Hour}},
+                [&uids](const DateIndex::Entry &entry) { uids.append(entry.uid); });
+    QCOMPARE(uids, QStringList("wall"));
+}
+
+void tst_dateindex::undatedComesLast()
+{
+    DateIndex index;
+    DateIndex::Entry undated = entry("a", 0, 0);
+    undated.isDated = false;
+    index.insert(undated);
+    index.insert(entry("b", 5, 6));
+    QCOMPARE(found(index, -10, 10), QStringList("b"));
+    QStringList all;
+    index.visitAll([&all](const DateIndex::Entry &entry) { all.append(entry.uid); });
+    QCOMPARE(all, QStringList({"b", "a"}));
+}
+
+void tst_dateindex::sameAsSearchingAll()
+{
+    QRandomGenerator random(7);
+    DateIndex index;
+    QVector<DateIndex::Entry> entries;
+    for (int i = 0; i < 400; ++i) {
+        const Msecs start = random.bounded(1000) * Hour;
+        DateIndex::Entry made = entry(QString::number(random.bounded(50)), start,
+                                      start + random.bounded(i % 3 == 0 ? 200 : 20) * Hour);
+        made.recurrenceId = i;
+        made.recurs = i % 5 == 0;
+        made.until = i % 10 == 0 ? DateIndex::Endless : made.first.end;
+        entries.append(made);
+        index.insert(made);
+    }
+    for (int i = 0; i < 100; ++i) {
+        entries[i].first = {i * Hour, (i + 1) * Hour};
+        entries[i].until = entries[i].first.end;
+        index.insert(entries[i]);
+        index.remove(entries.takeLast().incidence.data());
+    }
+    std::sort(entries.begin(), entries.end());
+    for (Msecs from = -50 * Hour; from < 1100 * Hour; from += 31 * Hour) {
+        const Msecs to = from + 24 * Hour;
+        QStringList expected;
+        for (const DateIndex::Entry &each : qAsConst(entries)) {
+            if (TimeSpan{each.first.start, each.until}.overlaps(from, to)) {
+                expected.append(each.uid);
+            }
+        }
+        QCOMPARE(found(index, from, to), expected);
+    }
+}
+
+QTEST_GUILESS_MAIN(tst_dateindex)
+#include "tst_dateindex.moc"
