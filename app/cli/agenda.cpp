@@ -46,7 +46,9 @@ QDateTime ruledTime(const KCalCore::Incidence::Ptr &incidence)
 QDateTime inZoneOf(const QDateTime &moment, const QDateTime &other)
 {
     // Clock time is that of whoever reads the agenda.
-    return other.timeSpec() == Qt::LocalTime ? moment : moment.toTimeZone(other.timeZone());
+    return other.timeSpec() == Qt::LocalTime
+        ? moment
+        : KDateTime(moment).toTimeSpec(KDateTime(other).timeSpec()).dateTime();
 }
 
 /// By what the series names the occurrence that starts at @p occurrenceStart: RFC 5545, 3.8.4.4.

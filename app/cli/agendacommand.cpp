@@ -48,7 +48,7 @@ QPair<QDate, QDate> readRange(const QCommandLineParser &parser, const QTimeZone 
         if (parser.isSet(option)) {
             *date = QDate::fromString(parser.value(option), Qt::ISODate);
             // Qt reads past separators and tails that are none.
-            if (date->toString(Qt::ISODate) != parser.value(option)) {
+            if (!date->isValid() || date->toString(Qt::ISODate) != parser.value(option)) {
                 *date = QDate();
                 console.message(QStringLiteral("--%1: '%2' is not a date such as 2026-05-01")
                                     .arg(option, parser.value(option)));
@@ -88,27 +88,32 @@ QPair<QDate, QDate> readRange(const QCommandLineParser &parser, const QTimeZone 
     return {from, to};
 }
 
+/// Makes the program live in that zone: so its clock times and the hour that comes twice are read
+/// as they are there. False after a message.
+bool moveTo(const QString &zoneName, Console &console)
+{
+    const QByteArray name = zoneName.toUtf8();
+    if (!KSystemTimeZones::zone(name).isValid()) {
+        console.message(QStringLiteral("--zone: there is no time zone '%1'").arg(zoneName));
+        return false;
+    }
+    qputenv("TZ", name);
+    KSystemTimeZones().configChanged();
+    return true;
+}
+
 ExitCode run(const QCommandLineParser &parser, Console &console)
 {
-    QTimeZone zone = KSystemTimeZones::local();
-    if (parser.isSet(ZoneOption)) {
-        zone = KSystemTimeZones::zone(parser.value(ZoneOption).toUtf8());
-        if (!zone.isValid()) {
-            console.message(
-                QStringLiteral("--zone: there is no time zone '%1'").arg(parser.value(ZoneOption)));
-            return WrongUsage;
-        }
+    if (parser.isSet(ZoneOption) && !moveTo(parser.value(ZoneOption), console)) {
+        return WrongUsage;
     }
-    const auto range = readRange(parser, zone, console);
+    const auto range = readRange(parser, KSystemTimeZones::local(), console);
     if (!range.first.isValid()) {
         return WrongUsage;
     }
     const Database database(console);
     if (!database.isOpen()) {
         return Failed;
-    }
-    if (parser.isSet(ZoneOption)) {
-        database.calendar()->setTimeZone(zone);
     }
     const Agenda agenda =
         readAgenda(database, NotebookFilter(database, parser), range.first, range.second);
