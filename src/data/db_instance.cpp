@@ -86,13 +86,15 @@ void DbInstancePrivate::open()
 
 void DbInstancePrivate::waitForPreload()
 {
-    if (initRunning.load(std::memory_order_acquire))
+    while (initRunning.load(std::memory_order_acquire))
         initWatcher.waitForFinished();
 }
 
 DbInstance::DbInstance()
 {
     theInstance = this;
+    KCalCompat::registerMetaTypes();
+    qRegisterMetaType<DbInstance::DbSaveError>();
     // Made here, on the UI thread: the preload may be the first to use it, from the worker.
     ExpandedIncidencesCache::instance();
     d = std::make_unique<DbInstancePrivate>(this);
@@ -196,10 +198,16 @@ void DbInstance::threadedInit()
                 Qt::UniqueConnection);
         return;
     }
-    const auto preload = d->user == CalendarUser ? &DbInstancePrivate::preloadCalendar
-                                                 : &DbInstancePrivate::preloadJournals;
     d->initRunning.store(true, std::memory_order_release);
-    d->initFuture = QtConcurrent::run(d.get(), preload);
+    // What other processes change meanwhile stays out of the calendar that the worker owns.
+    d->storage->holdNotices();
+    d->initFuture = QtConcurrent::run([database = d.get(), forCalendar = d->user == CalendarUser] {
+        if (forCalendar)
+            database->preloadCalendar();
+        else
+            database->preloadJournals();
+        database->storage->releaseNotices();
+    });
     d->initWatcher.setFuture(d->initFuture);
 }
 
@@ -209,8 +217,7 @@ void DbInstance::enableDb()
         return;
     tryOpenDatabase();
     if (d->initRunning.load(std::memory_order_acquire)) {
-        if (d->initWatcher.isRunning())
-            d->initWatcher.waitForFinished();
+        d->waitForPreload();
     } else if (d->user == CalendarUser) {
         d->preloadCalendar();
     } else if (d->user == NotesUser) {

@@ -56,6 +56,7 @@ void NotebookManagerPrivate::report(bool accepted) const
 
 NotebookManager::NotebookManager() : d(std::make_unique<NotebookManagerPrivate>(this))
 {
+    qRegisterMetaType<NotebookManager::ModifyError>();
     connect(DbInstance::instance(), &DbInstance::dataUpdated, this, &NotebookManager::dataUpdated);
     dataUpdated();
 }

@@ -1,0 +1,177 @@
+// SPDX-FileCopyrightText: 2026 The daskel authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "incidences.h"
+#include "testenvironment.h"
+
+#include <daskel/db_instance.h>
+
+#include <QtTest>
+
+using KCalCore::Incidence;
+
+/// Start and end of the occurrence that a time belongs to.
+class DbOccurrenceTest : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void start_data();
+    void start();
+    void end_data();
+    void end();
+
+private:
+    const TestEnvironment m_environment{QDate(2011, 3, 10)};
+};
+
+namespace
+{
+Incidence::Ptr daily(const Incidence::Ptr &incidence)
+{
+    incidence->recurrence()->setDaily(1);
+    return incidence;
+}
+
+Incidence::Ptr meeting()
+{
+    return makeEvent(QStringLiteral("meeting"), localTime("2011-03-10T10:00"),
+                     localTime("2011-03-10T11:30"));
+}
+
+Incidence::Ptr nightShift()
+{
+    return makeEvent(QStringLiteral("night shift"), localTime("2011-03-10T22:00"),
+                     localTime("2011-03-11T06:00"));
+}
+
+Incidence::Ptr withExtraDates()
+{
+    const auto event = meeting();
+    for (const int day : {5, 10, 15})
+        event->recurrence()->addRDateTime(QDateTime(QDate(2011, 5, day), QTime(10, 0)));
+    return event;
+}
+
+Incidence::Ptr withoutTheEleventh()
+{
+    const auto event = daily(meeting());
+    event->recurrence()->addExDateTime(localTime("2011-03-11T10:00"));
+    return event;
+}
+
+Incidence::Ptr inNewYork()
+{
+    const QTimeZone zone("America/New_York");
+    return makeEvent(QStringLiteral("New York"), QDateTime(QDate(2011, 3, 10), QTime(9, 0), zone),
+                     QDateTime(QDate(2011, 3, 10), QTime(10, 0), zone));
+}
+
+Incidence::Ptr holiday()
+{
+    return makeAllDayEvent(QStringLiteral("holiday"), QDate(2011, 3, 10), QDate(2011, 3, 11));
+}
+
+Incidence::Ptr allDayInNewYork()
+{
+    const QTimeZone zone("America/New_York");
+    const auto event = makeEvent(QStringLiteral("holiday"), QDate(2011, 3, 10).startOfDay(zone),
+                                 QDate(2011, 3, 11).startOfDay(zone));
+    event->setAllDay(true);
+    return event;
+}
+} // namespace
+
+void DbOccurrenceTest::start_data()
+{
+    QTest::addColumn<Incidence::Ptr>("incidence");
+    QTest::addColumn<QDateTime>("time");
+    QTest::addColumn<QDateTime>("start");
+
+    const QDateTime none;
+    QTest::newRow("no incidence") << Incidence::Ptr() << localTime("2011-03-10T10:00") << none;
+    QTest::newRow("single, another day")
+        << meeting() << localTime("2011-06-01T00:00") << localTime("2011-03-10T10:00");
+    QTest::newRow("recurring, exactly at its start")
+        << daily(meeting()) << localTime("2011-03-15T10:00") << localTime("2011-03-15T10:00");
+    QTest::newRow("recurring, a second before")
+        << daily(meeting()) << localTime("2011-03-15T09:59:59") << localTime("2011-03-14T10:00");
+    QTest::newRow("recurring, given in UTC")
+        << daily(meeting()) << localTime("2011-03-15T10:00").toUtc()
+        << localTime("2011-03-15T10:00");
+    QTest::newRow("recurring, after the clock change")
+        << daily(meeting()) << localTime("2011-03-28T12:00") << localTime("2011-03-28T10:00");
+    QTest::newRow("recurring, before the first")
+        << daily(meeting()) << localTime("2011-03-09T10:00") << none;
+    QTest::newRow("recurring, excluded day")
+        << withoutTheEleventh() << localTime("2011-03-11T12:00") << localTime("2011-03-10T10:00");
+    QTest::newRow("several extra dates")
+        << withExtraDates() << localTime("2011-05-20T12:00") << localTime("2011-05-15T10:00");
+    QTest::newRow("another zone") << inNewYork() << localTime("2011-03-10T18:00")
+                                  << localTime("2011-03-10T16:00");
+    QTest::newRow("recurring in another zone whose clock changed first")
+        << daily(inNewYork()) << localTime("2011-03-14T18:00") << localTime("2011-03-14T15:00");
+    QTest::newRow("recurring, all day")
+        << daily(holiday()) << localTime("2011-03-28T12:00") << localTime("2011-03-28T00:00");
+    QTest::newRow("all day in another zone keeps its date")
+        << allDayInNewYork() << localTime("2011-03-10T12:00") << localTime("2011-03-10T00:00");
+    QTest::newRow("to-do without dates") << Incidence::Ptr(makeTodo(QStringLiteral("todo"), none))
+                                         << localTime("2011-03-10T12:00") << none;
+}
+
+void DbOccurrenceTest::start()
+{
+    QFETCH(Incidence::Ptr, incidence);
+    QFETCH(QDateTime, time);
+    const QDateTime start = DbInstance::incidenceRecurrenceStart(incidence, time);
+    QTEST(start, "start");
+    if (start.isValid())
+        QCOMPARE(start.timeSpec(), Qt::LocalTime);
+}
+
+void DbOccurrenceTest::end_data()
+{
+    QTest::addColumn<Incidence::Ptr>("incidence");
+    QTest::addColumn<QDateTime>("time");
+    QTest::addColumn<QDateTime>("end");
+    QTest::addColumn<QDateTime>("endOfDay");
+
+    const QDateTime none;
+    const auto row = [](const char *name, const Incidence::Ptr &incidence, const char *time,
+                        const char *end, const char *endOfDay) {
+        QTest::newRow(name) << incidence << localTime(time) << localTime(end)
+                            << localTime(endOfDay);
+    };
+    QTest::newRow("no incidence") << Incidence::Ptr() << localTime("2011-03-10T10:00") << none
+                                  << none;
+    row("within the day", daily(meeting()), "2011-03-15T10:00", "2011-03-15T11:30",
+        "2011-03-15T11:30");
+    row("asked in its middle", daily(meeting()), "2011-03-15T10:45", "2011-03-15T11:30",
+        "2011-03-15T11:30");
+    row("over midnight, asked on the first day", daily(nightShift()), "2011-03-15T22:00",
+        "2011-03-16T00:00", "2011-03-16T23:59:59");
+    row("over midnight, asked on the second day", daily(nightShift()), "2011-03-16T01:00",
+        "2011-03-16T06:00", "2011-03-16T06:00");
+    row("all day, ends with the midnight after it", daily(holiday()), "2011-03-15T00:00",
+        "2011-03-16T00:00", "2011-03-16T23:59:59");
+    row("single, asked on a later day", meeting(), "2011-03-12T09:00", "2011-03-10T00:00",
+        "2011-03-10T23:59:59");
+    row("another zone", inNewYork(), "2011-03-10T16:30", "2011-03-10T17:00", "2011-03-10T17:00");
+    row("to-do: its only time", makeTodo(QStringLiteral("todo"), localTime("2011-03-10T18:00")),
+        "2011-03-10T18:00", "2011-03-10T18:00", "2011-03-10T18:00");
+    QTest::newRow("over midnight, given in UTC")
+        << daily(nightShift()) << localTime("2011-03-16T01:00").toUtc()
+        << localTime("2011-03-16T06:00") << localTime("2011-03-16T06:00");
+    QTest::newRow("to-do without dates") << Incidence::Ptr(makeTodo(QStringLiteral("todo"), none))
+                                         << localTime("2011-03-10T12:00") << none << none;
+}
+
+void DbOccurrenceTest::end()
+{
+    QFETCH(Incidence::Ptr, incidence);
+    QFETCH(QDateTime, time);
+    QTEST(DbInstance::incidenceEndTime(incidence, time, false), "end");
+    QTEST(DbInstance::incidenceEndTime(incidence, time, true), "endOfDay");
+}
+
+QTEST_GUILESS_MAIN(DbOccurrenceTest)
+#include "tst_dboccurrence.moc"

@@ -1,0 +1,179 @@
+// SPDX-FileCopyrightText: 2026 The daskel authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "databasefixture.h"
+#include "incidences.h"
+#include "warningcapture.h"
+
+#include <daskel/db_instance.h>
+#include <daskel/expandedincidencescache.h>
+
+#include <QSignalSpy>
+#include <QtTest>
+
+/// DbInstance on a database file that another process has open too.
+class DbStorageTest : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void notebooksSurviveReopening();
+    void preloadedThingsAreThere();
+    void foreignChanges();
+    void foreignChangesWithoutAUser();
+    void ownSaveIsNoForeignChange();
+    void aDayOutsideIsLoadedOnDemand();
+    void wakesUpInAnotherZone();
+
+private:
+    static DbInstance &db() { return *DbInstance::instance(); }
+    static void openAs(DatabaseFixture &database, DbInstance::DbUser user)
+    {
+        database.open();
+        db().setUser(user);
+        db().enableDb();
+    }
+    static int shownOn(const char *date)
+    {
+        return ExpandedIncidencesCache::instance()
+            ->getExpandedEventsAndTodos(isoDate(date), isoDate(date))
+            .size();
+    }
+    static KCalCore::Event::Ptr meeting(const char *uid, const char *date)
+    {
+        const QDateTime start(isoDate(date), QTime(10, 0));
+        return makeEvent(QLatin1String(uid), start, start.addSecs(3600));
+    }
+};
+
+void DbStorageTest::notebooksSurviveReopening()
+{
+    DatabaseFixture database;
+    database.open();
+    QCOMPARE(db().storage()->notebooks().size(), 2);
+    const auto personal = mKCal::Notebook::Ptr::create(*db().storage()->defaultNotebook());
+    QCOMPARE(personal->name(), QStringLiteral("Personal"));
+    personal->setName(QStringLiteral("Home"));
+    personal->setColor(QStringLiteral("#123456"));
+    personal->setIsVisible(false);
+    QVERIFY(db().storage()->updateNotebook(personal));
+
+    database.open();
+    QCOMPARE(db().storage()->notebooks().size(), 2);
+    QVERIFY(*db().storage()->defaultNotebook() == *personal);
+    QCOMPARE(db().storage()->notebooks().last()->name(), QStringLiteral("Notes"));
+}
+
+void DbStorageTest::preloadedThingsAreThere()
+{
+    DatabaseFixture database;
+    database.open();
+    {
+        const OtherProcess other;
+        const auto series = meeting("series", "2010-03-04");
+        series->recurrence()->setWeekly(1);
+        other.calendar->addEvent(series);
+        other.calendar->addEvent(meeting("in range", "2011-04-20"));
+        other.calendar->addEvent(meeting("out of range", "2011-08-01"));
+        other.calendar->addTodo(makeTodo(QStringLiteral("todo"), QDateTime()));
+        other.calendar->addJournal(
+            makeJournal(QStringLiteral("old"), localTime("2010-01-01T10:00")));
+        QVERIFY(other.storage->save());
+    }
+    openAs(database, DbInstance::CalendarUser);
+    const auto calendar = db().calendar();
+    for (const char *uid : {"series", "in range", "todo"})
+        QVERIFY2(calendar->incidence(QLatin1String(uid)), uid);
+    for (const char *uid : {"out of range", "old"})
+        QVERIFY2(!calendar->incidence(QLatin1String(uid)), uid);
+    QCOMPARE(shownOn("2011-03-10"), 1); // a Thursday of the series
+
+    openAs(database, DbInstance::NotesUser);
+    QVERIFY(db().calendar()->incidence(QStringLiteral("old")));
+    QVERIFY(!db().calendar()->incidence(QStringLiteral("series")));
+}
+
+void DbStorageTest::foreignChanges()
+{
+    DatabaseFixture database;
+    openAs(database, DbInstance::CalendarUser);
+    QSignalSpy updated(&db(), &DbInstance::dataUpdated);
+    OtherProcess other;
+    const auto event = meeting("foreign", "2011-03-12");
+    QVERIFY(other.calendar->addEvent(event));
+    QVERIFY(other.storage->save());
+    QTRY_COMPARE(updated.count(), 2); // of the preload, and of the change itself
+    QCOMPARE(shownOn("2011-03-12"), 1);
+    const auto here = db().calendar()->incidence(QStringLiteral("foreign"));
+    QVERIFY(here);
+
+    QVERIFY(other.calendar->deleteEvent(event));
+    QVERIFY(other.storage->save());
+    QTRY_COMPARE(updated.count(), 4);
+    QCOMPARE(shownOn("2011-03-12"), 0);
+    QVERIFY(!db().incidence(QStringLiteral("foreign"), KDateTime()));
+}
+
+void DbStorageTest::foreignChangesWithoutAUser()
+{
+    DatabaseFixture database;
+    openAs(database, DbInstance::NoUser);
+    db().load(isoDate("2011-03-01"), isoDate("2011-03-31"));
+    QSignalSpy updated(&db(), &DbInstance::dataUpdated);
+    WarningCapture warnings;
+    OtherProcess other;
+    QVERIFY(other.calendar->addEvent(meeting("foreign", "2011-03-12")));
+    QVERIFY(other.storage->save());
+    QTRY_COMPARE(updated.count(), 1);
+    QCOMPARE(warnings.take(), QStringList{QStringLiteral("No loading of caches..")});
+    QCOMPARE(shownOn("2011-03-12"), 1);
+}
+
+void DbStorageTest::ownSaveIsNoForeignChange()
+{
+    DatabaseFixture database;
+    openAs(database, DbInstance::CalendarUser);
+    QSignalSpy updated(&db(), &DbInstance::dataUpdated);
+    QVERIFY(db().calendar()->addEvent(meeting("own", "2011-03-12")));
+    QCOMPARE(shownOn("2011-03-12"), 0);
+    QVERIFY(db().save());
+    QCOMPARE(updated.count(), 1);
+    QCOMPARE(shownOn("2011-03-12"), 1);
+    // The own write is not noticed a second time by way of the files.
+    QVERIFY(!updated.wait(150));
+}
+
+void DbStorageTest::aDayOutsideIsLoadedOnDemand()
+{
+    DatabaseFixture database;
+    database.open();
+    {
+        const OtherProcess other;
+        QVERIFY(other.calendar->addEvent(meeting("summer", "2011-08-01")));
+        QVERIFY(other.storage->save());
+    }
+    openAs(database, DbInstance::CalendarUser);
+    QVERIFY(!db().calendar()->incidence(QStringLiteral("summer")));
+    // A jump of the view: loaded, since the cache starts over there.
+    QCOMPARE(shownOn("2012-12-24"), 0);
+    QCOMPARE(shownOn("2011-08-01"), 1);
+    QVERIFY(db().calendar()->incidence(QStringLiteral("summer")));
+}
+
+void DbStorageTest::wakesUpInAnotherZone()
+{
+    DatabaseFixture database;
+    openAs(database, DbInstance::CalendarUser);
+    QVERIFY(db().calendar()->addEvent(
+        makeEvent(QStringLiteral("call"), QDateTime(isoDate("2011-03-12"), QTime(0, 30), Qt::UTC),
+                  QDateTime(isoDate("2011-03-12"), QTime(1, 0), Qt::UTC))));
+    QVERIFY(db().save());
+    QCOMPARE(shownOn("2011-03-12"), 1);
+    QSignalSpy updated(&db(), &DbInstance::dataUpdated);
+    database.environment.changeZone("America/New_York");
+    QTRY_COMPARE(updated.count(), 1);
+    QCOMPARE(shownOn("2011-03-12"), 0);
+    QCOMPARE(shownOn("2011-03-11"), 1);
+}
+
+QTEST_GUILESS_MAIN(DbStorageTest)
+#include "tst_dbstorage.moc"
