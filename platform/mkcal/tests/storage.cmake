@@ -7,7 +7,7 @@ daskel_add_test(tst_sqlitestorage_load LINK mkcal SQLite::SQLite3)
 daskel_add_test(tst_sqlitestorage_notebooks LINK mkcal SQLite::SQLite3)
 daskel_add_test(tst_sqlitestorage_reminders LINK mkcal SQLite::SQLite3)
 daskel_add_test(tst_sqlitestorage_save LINK mkcal SQLite::SQLite3)
-daskel_add_test(tst_storagethreads LABELS threaded LINK mkcal Qt5::Concurrent SQLite::SQLite3)
+daskel_add_test(tst_storagethreads LABELS threaded LINK mkcal SQLite::SQLite3)
 
 # A second process of the calendar, which tests start and command.
 add_executable(storageprocess storageprocess.cpp)

@@ -23,6 +23,8 @@ private Q_SLOTS:
     void cleanup();
     void onlyWhatWasLoadedIsTakenIn_data();
     void onlyWhatWasLoadedIsTakenIn();
+    void exceptionsAreToldApart_data();
+    void exceptionsAreToldApart();
     void heldObjectsStayTheRightOnes();
     void ownSaveIsNoForeignChange();
     void remindersAreNoNews();
@@ -173,6 +175,53 @@ void TestNotices::onlyWhatWasLoadedIsTakenIn()
     QCoreApplication::processEvents();
     QCOMPARE(m_here->notices.modified, 1);
     QCOMPARE(m_there->notices.modified, 1);
+}
+
+void TestNotices::exceptionsAreToldApart_data()
+{
+    QTest::addColumn<QDateTime>("start");
+    QTest::addColumn<bool>("allDay");
+    const QTime nine(9, 0);
+    const QDate day(2026, 3, 20);
+    QTest::newRow("all-day") << QDateTime(day, QTime(0, 0)) << true;
+    QTest::newRow("floating") << QDateTime(day, nine) << false;
+    QTest::newRow("floating midnight") << QDateTime(day, QTime(0, 0)) << false;
+    QTest::newRow("UTC") << QDateTime(day, nine, Qt::UTC) << false;
+    QTest::newRow("another zone") << QDateTime(day, nine, QTimeZone("America/New_York")) << false;
+    QTest::newRow("an offset") << QDateTime(day, nine, Qt::OffsetFromUTC, 5400) << false;
+    QTest::newRow("with milliseconds") << QDateTime(day, QTime(9, 0, 0, 250), Qt::UTC) << false;
+}
+
+void TestNotices::exceptionsAreToldApart()
+{
+    QFETCH(QDateTime, start);
+    QFETCH(bool, allDay);
+    const auto series = daily("x", start, 10);
+    series->setAllDay(allDay);
+    const auto second = exception(series, start.addDays(1), start.addDays(1).addSecs(7200));
+    second->setAllDay(allDay);
+    QVERIFY(m_fixture->store({series, second}));
+    QVERIFY(m_here->storage->load("x"));
+    const int known = m_here->uids().size();
+    const auto held = m_here->calendar->instances(m_here->incidence("x"));
+    QCOMPARE(held.size(), 1);
+    change([](OpenStorage &s) {
+        const auto theirs = s.calendar->instances(s.incidence("x"));
+        QCOMPARE(theirs.size(), 1);
+        theirs.first()->setSummary("theirs", false);
+    });
+    QTRY_COMPARE(held.first()->summary(), QStringLiteral("theirs"));
+    QCOMPARE(m_here->uids().size(), known);
+    // An edit of it is one of the same row.
+    held.first()->setSummary("mine", false);
+    QVERIFY(m_here->storage->save());
+    KCalCore::Incidence::List stored;
+    QVERIFY(m_here->storage->allIncidences(&stored));
+    QCOMPARE(stored.size(), 8);
+    change([](OpenStorage &s) {
+        s.calendar->deleteIncidence(s.calendar->instances(s.incidence("x")).first());
+    });
+    QTRY_COMPARE(m_here->uids().size(), known - 1);
 }
 
 void TestNotices::heldObjectsStayTheRightOnes()

@@ -64,8 +64,9 @@ public:
     /// null) is set to the start of the last one loaded, invalid when none was.
     virtual bool loadFutureIncidences(int limit, KDateTime *last) = 0;
     /// The next page of completed to-dos, newest completion first: those completed before @p last
-    /// (from the newest when it is null or invalid); sets @p last for the next page. Returns how
-    /// many there were, -1 on failure.
+    /// (from the newest when it is null or invalid); sets @p last for the next page. Those completed
+    /// in one second stay on one page, which may make it longer than @p limit. Returns how many
+    /// there were, -1 on failure.
     virtual int loadCompletedTodos(int limit, KDateTime *last) = 0;
     /// Those created or last modified at or after @p since (UTC).
     virtual bool loadCreatedSince(const QDateTime &since) = 0;
@@ -98,8 +99,9 @@ public:
                                    const QString &notebookUid = QString()) = 0;
     /// Versions that a save of this or another process overwrote without having seen them.
     virtual bool overwrittenIncidences(KCalCore::Incidence::List *list, const QString &uid) = 0;
-    /// Brings the last deleted version of an incidence back into the calendar and its notebook
-    /// (unsaved until save()).
+    /// Brings the last deleted version of an incidence back into the calendar and its notebook (the
+    /// default one when that is gone), a series with the exceptions that were deleted with it;
+    /// unsaved until save(). False for what is not deleted.
     virtual bool undelete(const QString &uid, const KDateTime &recurrenceId = KDateTime()) = 0;
     /// Removes tombstones and overwritten versions from before @p before (null: all) for good.
     virtual bool purgeDeleted(const QDateTime &before = QDateTime(),
@@ -109,8 +111,10 @@ public:
 
     // Reminders
 
-    /// Plans the reminders of @p incidences anew, from now to the horizon of 60 days. What was
-    /// already shown is not planned again.
+    /// Plans the reminders of @p incidences anew, from now on: those of series as far as the
+    /// horizon of 60 days, which each opening moves on. What was already shown is not planned
+    /// again. A series is planned with all its stored exceptions, given or not; what is not stored
+    /// is not planned.
     virtual bool resetAlarms(const KCalCore::Incidence::List &incidences) = 0;
     /// The planned reminders of [@p from, @p to), UTC, ordered by time, dismissed ones left out.
     virtual ReminderList reminders(const QDateTime &from, const QDateTime &to) = 0;
@@ -124,9 +128,10 @@ public:
 
     virtual Notebook::List notebooks() = 0;
     virtual Notebook::Ptr notebook(const QString &uid) = 0;
-    /// Refused without any effect: null, empty UID, a UID that is already there.
-    /// @param signal whether observers are told.
+    /// Stores a copy. Refused without any effect: null, empty UID, a UID that is already there.
+    /// @param signal whether observers are told; other processes are in any case.
     virtual bool addNotebook(const Notebook::Ptr &notebook, bool signal = true) = 0;
+    /// Stores @p notebook in place of that of its UID; observers are told when it differs.
     virtual bool updateNotebook(const Notebook::Ptr &notebook) = 0;
     /// Deletes the notebook and, leaving tombstones, its incidences. @param onlyMemory only the
     /// calendar forgets them, the database is not touched.
@@ -134,7 +139,8 @@ public:
     /// Makes it the default. Only the UID counts: nothing else of the stored notebook changes.
     virtual bool setDefaultNotebook(const Notebook::Ptr &notebook) = 0;
     virtual Notebook::Ptr defaultNotebook() = 0;
-    /// The first writable, visible notebook becomes the default.
+    /// The first notebook that is writable, visible and not hidden becomes the default. False when
+    /// there is none.
     virtual bool resetDefaultNotebook() = 0;
 
     // Changes by other processes. Both calls may come from any thread.

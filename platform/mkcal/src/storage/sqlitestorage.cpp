@@ -143,11 +143,12 @@ bool SqliteStoragePrivate::catchUp()
 
 void SqliteStoragePrivate::lookForForeignChanges()
 {
+    // Said first: whoever holds the lock or the notices asks for it when done.
+    lookDue = true;
     std::unique_lock<std::recursive_mutex> lock(mutex, std::try_to_lock);
-    if (!lock || noticeHolds > 0) {
-        lookDue = true;
+    if (!lock || noticeHolds > 0 || callDepth > 0)
         return;
-    }
+    lookDue = false;
     if (!tables)
         return;
     const qint64 dataVersion = connection.dataVersion();

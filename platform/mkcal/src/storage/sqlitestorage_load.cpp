@@ -12,30 +12,33 @@
 
 namespace mKCal
 {
-namespace
-{
-/// The statement's values for rows of `span` 0: the index is entered at the earliest start that a
-/// short row overlapping the range may have.
-SqlValues shortRowValues(const DateRange &range)
-{
-    return {range.firstKey() - ComponentKeys::shortSeconds, range.endKey(), range.firstKey()};
-}
-} // namespace
-
 bool SqliteStoragePrivate::loadDays(const DateRange &range)
 {
     if (!range.isValid())
         return true;
     const QVector<DateRange> missing = loaded.missingDays(range);
+    const ChangeRecord::Pause pause(changes);
     for (const DateRange &gap : missing) {
-        if (!loader.loadRows(tables->reader, "span = 0 AND start >= ? AND start < ? AND end > ?",
-                             shortRowValues(gap))
-            || !loader.loadRows(tables->reader, "span = 1 AND start < ? AND end > ?",
-                                {gap.endKey(), gap.firstKey()}))
+        loader.countRead();
+        if (!readDays(gap, [this](const ComponentRow &row) {
+                loader.take(row);
+                return true;
+            }))
             return false;
         loaded.addDays(gap);
     }
     return true;
+}
+
+bool SqliteStoragePrivate::readDays(const DateRange &range, const ComponentReader::Sink &sink)
+{
+    // The index is entered at the earliest start that a short row in the range may have.
+    return tables->reader.read(
+               "state = 0 AND span = 0 AND start >= ? AND start < ? AND end > ?",
+               {range.firstKey() - ComponentKeys::shortSeconds, range.endKey(), range.firstKey()},
+               sink)
+        && tables->reader.read("state = 0 AND span = 1 AND start < ? AND end > ?",
+                               {range.endKey(), range.firstKey()}, sink);
 }
 
 bool SqliteStoragePrivate::loadRecurringDays(const DateRange &range)
@@ -75,7 +78,9 @@ bool SqliteStorage::load(const QString &uid, const KDateTime &recurrenceId)
     StorageCall call(*d);
     if (!d->isOpen())
         return call.ended(false);
-    if (d->loaded.hasEverything() || d->calendar->incidence(uid, recurrenceId))
+    // Where the series is, all its exceptions are.
+    if (d->loaded.hasEverything() || d->calendar->incidence(uid, recurrenceId)
+        || d->calendar->incidence(uid, KDateTime()))
         return call.ended(true);
     return call.ended(d->loadUid(uid));
 }

@@ -258,6 +258,7 @@ Notebook::Ptr SqliteStorage::notebook(const QString &uid)
 
 Notebook::Ptr SqliteStorage::defaultNotebook()
 {
+    const StorageCall call(*d);
     return notebook(d->defaultNotebook);
 }
 } // namespace mKCal

@@ -82,6 +82,8 @@ public:
     bool notebookCallEnded(StorageCall &call, bool succeeded, bool signal, const QString &info);
 
     bool loadDays(const DateRange &range);
+    /// The non-recurring rows that may lie in the range.
+    bool readDays(const DateRange &range, const ComponentReader::Sink &sink);
     bool loadRecurringDays(const DateRange &range);
     bool loadUid(const QString &uid);
     bool loadIds(const QVector<QPair<qint64, QString>> &idsAndFamilies);

@@ -24,12 +24,28 @@ QDate firstDay(ExtendedCalendar &calendar, KCalCore::Incidence::List incidences,
     return std::max(window.first, day);
 }
 
-bool holdsText(const QString &summary, const QString &description, const QString &location,
-               const QString &text)
+/// A row that holds the text looked for.
+struct Match {
+    qint64 start = 0;
+    IncidenceKey key;
+    QPair<qint64, QString> idAndFamily;
+};
+
+bool newestFirst(const Match &a, const Match &b)
 {
-    return summary.contains(text, Qt::CaseInsensitive)
-        || description.contains(text, Qt::CaseInsensitive)
-        || location.contains(text, Qt::CaseInsensitive);
+    if (a.start != b.start)
+        return a.start > b.start;
+    return a.key.uid != b.key.uid ? a.key.uid < b.key.uid : a.key.recId < b.key.recId;
+}
+
+/// Whether one of the four columns from @p first on does.
+bool holdsText(const Statement &row, int first, const QString &text)
+{
+    for (int column = first; column < first + 4; ++column) {
+        if (row.text(column).contains(text, Qt::CaseInsensitive))
+            return true;
+    }
+    return false;
 }
 } // namespace
 
@@ -40,25 +56,28 @@ KCalCore::Incidence::List SqliteStorage::search(const QString &text, int limit)
         return {};
     // SQLite folds the case of ASCII letters only, so the texts are compared here.
     Statement &query = d->connection.statement(
-        "SELECT id, CASE span WHEN 2 THEN uid END, uid, recId, summary, description, location,"
-        " (SELECT group_concat(value, char(10)) FROM Props WHERE comp = Components.id"
-        " AND owner = 0 AND kind = 1) FROM Components WHERE state = 0"
-        " ORDER BY start DESC, uid, recId");
-    QVector<QPair<qint64, QString>> ids;
-    QVector<IncidenceKey> keys;
-    while ((limit <= 0 || keys.size() < limit) && query.next()) {
-        if (!holdsText(query.text(4), query.text(5), query.text(6), text)
-            && !query.text(7).contains(text, Qt::CaseInsensitive))
+        "SELECT id, CASE span WHEN 2 THEN uid END, start, uid, recId, summary, description,"
+        " location, (SELECT group_concat(value, char(10)) FROM Props"
+        " WHERE comp = Components.id AND owner = 0 AND kind = 1)"
+        " FROM Components WHERE state = 0");
+    QVector<Match> matches;
+    while (query.next()) {
+        if (!holdsText(query, 5, text))
             continue;
-        ids.append({query.integer(0), query.text(1)});
-        keys.append({query.text(2), query.text(3)});
+        matches.append(
+            {query.integer(2), {query.text(3), query.text(4)}, {query.integer(0), query.text(1)}});
     }
-    query.reset();
+    std::sort(matches.begin(), matches.end(), newestFirst);
+    if (limit > 0 && matches.size() > limit)
+        matches.resize(limit);
+    QVector<QPair<qint64, QString>> ids;
+    for (const Match &match : qAsConst(matches))
+        ids.append(match.idAndFamily);
     if (!call.ended(!query.failed() && d->loadIds(ids)))
         return {};
     KCalCore::Incidence::List found;
-    for (const IncidenceKey &key : qAsConst(keys)) {
-        if (const KCalCore::Incidence::Ptr incidence = findInCalendar(*d->calendar, key))
+    for (const Match &match : qAsConst(matches)) {
+        if (const KCalCore::Incidence::Ptr incidence = findInCalendar(*d->calendar, match.key))
             found.append(incidence);
     }
     return found;
@@ -75,15 +94,14 @@ QDate SqliteStorage::nextDateWithIncidence(const QDate &from)
     for (DateRange window{from, from.addDays(days - 1)}; window.first <= horizon;) {
         KCalCore::Incidence::List found;
         const auto collect = [&found](const ComponentRow &row) {
-            found.append(row.incidence);
+            if (row.incidence->type() != KCalCore::IncidenceBase::TypeJournal)
+                found.append(row.incidence);
             return true;
         };
-        const bool read =
-            d->tables->reader.read("state = 0 AND type < 2 AND span < 2 AND start < ? AND end > ?",
-                                   {window.endKey(), window.firstKey()}, collect)
+        const bool read = d->readDays(window, collect)
             && d->tables->reader.read(
-                "state = 0 AND type < 2 AND uid IN (SELECT uid FROM Components WHERE state = 0"
-                " AND span = 2 AND start < ? AND until > ?)",
+                "state = 0 AND uid IN (SELECT uid FROM Components WHERE state = 0 AND span = 2"
+                " AND start < ? AND until > ?)",
                 {window.endKey(), window.firstKey()}, collect);
         d->loader.countRead();
         if (!call.ended(read))
