@@ -96,16 +96,19 @@ void appendPieces(const ExtendedCalendar &calendar,
     }
 }
 
-/// By day; within a day all-day ones first, then by time.
+/// By day; within a day what fills it, then what is due on it, then by time.
 bool readsBefore(const AgendaEntry &a, const AgendaEntry &b)
 {
+    const auto rank = [](const AgendaEntry &entry) {
+        if (!entry.incidence->allDay()) {
+            return 2;
+        }
+        return entry.incidence->type() == KCalCore::Incidence::TypeTodo ? 1 : 0;
+    };
     if (a.start.date() != b.start.date()) {
         return a.start.date() < b.start.date();
     }
-    if (a.incidence->allDay() != b.incidence->allDay()) {
-        return a.incidence->allDay();
-    }
-    return a.start < b.start;
+    return rank(a) != rank(b) ? rank(a) < rank(b) : a.start < b.start;
 }
 
 /// What repeats so often that the limit cut it is named, so that nobody takes the list for whole.

@@ -81,12 +81,11 @@ void printEntry(const AgendaEntry &entry, const QString &notebookName, QTextStre
     if (entry.dayCount() > 1) {
         out << QStringLiteral(" (day %1 of %2)").arg(entry.dayNumber()).arg(entry.dayCount());
     }
-    out << placeTimeText(entry);
     const QString location = printable(entry.incidence->location().simplified());
     if (!location.isEmpty()) {
         out << QStringLiteral(", ") << location;
     }
-    out << QStringLiteral("  · ") << printable(notebookName) << '\n';
+    out << placeTimeText(entry) << QStringLiteral("  · ") << printable(notebookName) << '\n';
 }
 } // namespace
 

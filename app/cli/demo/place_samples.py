@@ -4,49 +4,48 @@
 """Moves the sample calendars to around a day: by whole weeks, so that weekdays stay.
 
 The samples are written around the week of 5 January 2026. Times are wall clock in their zones, so
-moving the dates is all there is to it; dates inside the time zone definitions stay.
+moving the dates is all there is to it. Dates inside the time zone definitions stay, and so do
+holidays, which have their place in every year.
 """
 
+import argparse
 import datetime
 import pathlib
 import re
-import sys
 
 REFERENCE_MONDAY = datetime.date(2026, 1, 5)
-DATED = re.compile(r"^(DTSTART|DTEND|DUE|COMPLETED|EXDATE|RDATE|RECURRENCE-ID|RRULE)[;:]")
+COMPONENT = re.compile(r"^BEGIN:(VTIMEZONE|VEVENT|VTODO|VJOURNAL)\r?\n.*?^END:\1\r?\n", re.M | re.S)
+DATED = re.compile(r"^(DTSTART|DTEND|DUE|COMPLETED|EXDATE|RDATE|RECURRENCE-ID|RRULE)[;:].*$", re.M)
 DATE = re.compile(r"(?<![0-9])((?:19|20)[0-9]{6})(?=T|$|,|;|\r)")
 
 
-def shift_line(line, shift):
-    def moved(match):
-        date = datetime.datetime.strptime(match.group(1), "%Y%m%d").date() + shift
+def place(text, today):
+    """The calendar `text` as if its reference week were the week of `today`."""
+    monday = today - datetime.timedelta(days=today.weekday())
+
+    def moved_date(match):
+        date = datetime.datetime.strptime(match[1], "%Y%m%d").date() + (monday - REFERENCE_MONDAY)
         return date.strftime("%Y%m%d")
 
-    return DATE.sub(moved, line) if DATED.match(line) else line
+    def moved_component(match):
+        if match[1] == "VTIMEZONE" or "\nCATEGORIES:Holiday" in match[0]:
+            return match[0]
+        return DATED.sub(lambda line: DATE.sub(moved_date, line[0]), match[0])
 
-
-def place(text, today):
-    monday = today - datetime.timedelta(days=today.weekday())
-    shift = monday - REFERENCE_MONDAY
-    in_zone = False
-    lines = []
-    for line in text.splitlines(keepends=True):
-        in_zone = line.startswith("BEGIN:VTIMEZONE") or (
-            in_zone and not line.startswith("END:VTIMEZONE"))
-        lines.append(line if in_zone else shift_line(line, shift))
-    return "".join(lines)
+    return COMPONENT.sub(moved_component, text)
 
 
 def main():
-    if len(sys.argv) < 3:
-        sys.exit("usage: place_samples.py TARGET_FOLDER SAMPLE.ics...")
-    target = pathlib.Path(sys.argv[1])
-    target.mkdir(parents=True, exist_ok=True)
-    for name in sys.argv[2:]:
-        sample = pathlib.Path(name)
+    parser = argparse.ArgumentParser(description="Moves sample calendars to around a day.")
+    parser.add_argument("target", type=pathlib.Path, help="folder to write them into")
+    parser.add_argument("samples", type=pathlib.Path, nargs="+")
+    parser.add_argument("--today", type=datetime.date.fromisoformat, default=datetime.date.today())
+    options = parser.parse_args()
+    options.target.mkdir(parents=True, exist_ok=True)
+    for sample in options.samples:
         with open(sample, encoding="utf-8", newline="") as file:
-            text = place(file.read(), datetime.date.today())
-        with open(target / sample.name, "w", encoding="utf-8", newline="") as file:
+            text = place(file.read(), options.today)
+        with open(options.target / sample.name, "w", encoding="utf-8", newline="") as file:
             file.write(text)
 
 

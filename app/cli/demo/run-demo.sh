@@ -2,34 +2,60 @@
 # SPDX-FileCopyrightText: 2026 The daskel authors
 # SPDX-License-Identifier: LGPL-2.1-or-later
 #
-# run-demo.sh BUILD_DIR [--data DIR]
-# Fills a demonstration database from the sample calendars, placed around today, and prints the
-# agenda of the next four weeks. With --data it reads the database of that folder instead.
+# run-demo.sh BUILD_DIR [--today DATE]
+# Fills a demonstration database from the sample calendars, placed around today (or DATE), and
+# prints the agenda of the next four weeks.
+# run-demo.sh BUILD_DIR --data DIR
+# prints that of the database in the folder DIR instead.
 set -eu
 
-build=$1
+build=$(cd "$1" && pwd)
 shift
 demo=$(cd "$(dirname "$0")" && pwd)
 daskel=$build/app/cli/daskel
 
-if [ $# -gt 0 ]; then
-    exec "$daskel" "$@" agenda --days 28
-fi
+usage() {
+    echo "usage: ./run [--data DIR | --today DATE]" >&2
+    exit 2
+}
 
-work=11111111-aaaa-4000-8000-000000000001
+# The people of the samples live in Helsinki: their agenda is the same wherever this runs.
+zone=Europe/Helsinki
+today=$(TZ=$zone date +%F)
+from=
+case ${1-} in
+--data)
+    [ $# -eq 2 ] || usage
+    exec "$daskel" --data "$2" agenda --days 28
+    ;;
+--today)
+    [ $# -eq 2 ] || usage
+    today=$2
+    from="--from $today"
+    ;;
+?*) usage ;;
+esac
+export TZ=$zone
+
+# Runs a command on the database and shows how it is called.
+show() {
+    echo "\$ daskel $*"
+    "$daskel" --data "$data" "$@"
+    echo
+}
+
 data=$build/demo
 rm -rf "$data"
-"$demo/place_samples.py" "$data/samples" "$demo/samples/work.ics" "$demo/samples/family.ics"
-"$daskel" --data "$data" notebook add Work --uid $work --color '#1565C0' >/dev/null
-echo "\$ daskel import --notebook Work work.ics"
-"$daskel" --data "$data" import --notebook $work "$data/samples/work.ics"
-echo "\$ daskel import family.ics"
-"$daskel" --data "$data" import "$data/samples/family.ics"
-echo "\$ daskel agenda --days 28"
-"$daskel" --data "$data" agenda --days 28
-echo
-echo "\$ daskel todos"
-"$daskel" --data "$data" todos
-echo
+"$demo/place_samples.py" --today "$today" "$data/samples" \
+    "$demo/samples/work.ics" "$demo/samples/family.ics"
+cd "$data/samples"
+show notebook add Work --color '#1565C0'
+show import --notebook Work work.ics
+show import family.ics
+# Empty, or two words.
+# shellcheck disable=SC2086
+show agenda $from --days 28
+show todos
+echo "Times are those of $zone, where the people of the samples live."
 echo "The demonstration database is in $data. Try:"
 echo "  $daskel --data $data --help"
