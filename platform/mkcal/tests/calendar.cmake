@@ -7,6 +7,8 @@ foreach(test IN ITEMS
     tst_expansion
     tst_expansionlimits
     tst_extendedcalendar
-    tst_notebook)
+    tst_notebook
+    tst_reminderplanner
+    tst_series)
     daskel_add_test(${test} LINK mkcal)
 endforeach()

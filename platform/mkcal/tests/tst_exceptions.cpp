@@ -146,6 +146,25 @@ void tst_exceptions::expanded_data()
                "a 2011-05-01 00:00 > 2011-05-02 00:00", "a 2011-05-02 00:00 > 2011-05-03 00:00",
                "a 2011-05-05 20:00 > 2011-05-05 21:00", "a 2011-05-06 20:00 > 2011-05-06 21:00",
                "a 2011-05-13 00:00 > 2011-05-15 00:00", "a 2011-05-14 00:00 > 2011-05-16 00:00"};
+    QTest::newRow("instead of starts that the clock skips, zoned and floating")
+        << Build([](Calendar &c) {
+               for (const QByteArray &zone : {QByteArray("Europe/Helsinki"), QByteArray()}) {
+                   const auto series =
+                       recurring(newEvent(zone.isEmpty() ? "floating" : "zoned", "2011-03-26T03:30",
+                                          "2011-03-26T03:45", zone),
+                                 "FREQ=DAILY;COUNT=3");
+                   c.addEvent(series);
+                   c.addEvent(exception(series, at("2011-03-27T04:30", zone), "2011-03-27T09:00",
+                                        "2011-03-27T09:15"));
+                   series->recurrence()->addExDateTime(at("2011-03-26T03:30", zone));
+               }
+           })
+        << "2011-03-20"
+        << "2011-04-01"
+        << QStringList{"floating 2011-03-27 09:00 > 2011-03-27 09:15",
+                       "zoned 2011-03-27 09:00 > 2011-03-27 09:15",
+                       "floating 2011-03-28 03:30 > 2011-03-28 03:45",
+                       "zoned 2011-03-28 03:30 > 2011-03-28 03:45"};
     QTest::newRow("all-day, named in the zone of another program")
         << Build([](Calendar &c) {
                const auto series =

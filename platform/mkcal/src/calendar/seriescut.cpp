@@ -148,10 +148,27 @@ SeriesCut::SeriesCut(const KCalCore::Incidence::Ptr &series, const QDateTime &fi
 {
 }
 
+int SeriesCut::countBefore(const RecurrenceRule &rule) const
+{
+    const KCalCore::Incidence::Ptr alone(m_series->clone());
+    alone->recurrence()->clear();
+    alone->recurrence()->addRRule(new RecurrenceRule(rule));
+    const SeriesScale scale(*alone, m_clock);
+    const qint64 cut = scale.keyOfStart(m_first);
+    SeriesWalk walk(*alone, scale, scale.first.toMSecsSinceEpoch(), m_first.toMSecsSinceEpoch());
+    walk.goAfter(scale.keyOfStart(scale.first) - 1);
+    // The start is an occurrence of the series even where the rule does not have it.
+    int count = rule.dateMatchesRules(scale.first) ? 0 : -1;
+    while (count < rule.duration() && walk.next() && walk.key() < cut) {
+        ++count;
+    }
+    return count;
+}
+
 bool SeriesCut::divideRule(const RecurrenceRule &whole, RecurrenceRule *later) const
 {
     if (whole.duration() > 0) {
-        const int remaining = whole.duration() - whole.durationTo(m_first.addSecs(-1));
+        const int remaining = whole.duration() - countBefore(whole);
         later->setDuration(qMax(1, remaining));
         return remaining > 0;
     }
@@ -241,7 +258,7 @@ bool SeriesCut::isSameFromCutOn(const KCalCore::Incidence &later) const
 bool SeriesCut::endRule(RecurrenceRule *rule) const
 {
     if (rule->duration() > 0) {
-        const int done = rule->durationTo(m_first.addSecs(-1));
+        const int done = countBefore(*rule);
         if (done > 0) {
             rule->setDuration(done);
         }

@@ -35,6 +35,8 @@ public:
 private:
     void divideRules(KCalCore::Recurrence *recurrence) const;
     bool divideRule(const KCalCore::RecurrenceRule &whole, KCalCore::RecurrenceRule *later) const;
+    /// How many occurrences a rule with a count has before the cut.
+    int countBefore(const KCalCore::RecurrenceRule &rule) const;
     bool endRule(KCalCore::RecurrenceRule *rule) const;
     bool isSameFromCutOn(const KCalCore::Incidence &later) const;
     bool isLater(const QDateTime &dateTime) const { return dateTime >= m_first; }

@@ -175,7 +175,11 @@ void countWallAsUtc(Recurrence *recurrence)
     const auto excluded = recurrence->exRules();
     std::for_each(excluded.cbegin(), excluded.cend(), endAsUtc);
     const QList<QDateTime> addedTimes = allAsUtc(recurrence->rDateTimes());
-    const QList<QDateTime> excludedTimes = allAsUtc(recurrence->exDateTimes());
+    QList<QDateTime> excludedTimes = allAsUtc(recurrence->exDateTimes());
+    const auto excludedMoments = recurrence->exDateTimes();
+    for (const QDateTime &moment : excludedMoments) {
+        excludedTimes.append(unskipped(inSpecOf(first, moment)));
+    }
     recurrence->setStartDateTime(asUtc(first), recurrence->allDay());
     recurrence->setRDateTimes(addedTimes);
     recurrence->setExDateTimes(excludedTimes);
@@ -300,15 +304,16 @@ bool SeriesWalk::needsWallCopy(Msecs from, Msecs to) const
 
 void SeriesWalk::goAfter(qint64 key)
 {
-    if (!m_scale.isWallBound) {
-        m_current = QDateTime::fromSecsSinceEpoch(key, m_scale.zone);
-        if (m_isWallCopy) {
-            m_current = QDateTime(m_current.date(), m_current.time(), Qt::UTC);
-        }
+    const QDateTime wall = QDateTime::fromSecsSinceEpoch(key, Qt::UTC);
+    if (m_isWallCopy && m_scale.isAllDay) {
+        m_current = wall;
         return;
     }
-    const QDateTime wall = QDateTime::fromSecsSinceEpoch(key, Qt::UTC);
-    m_current = m_isWallCopy ? wall : atWallClock(wall.date(), wall.time(), m_scale.zone);
+    m_current = m_scale.isWallBound ? atWallClock(wall.date(), wall.time(), m_scale.zone)
+                                    : QDateTime::fromSecsSinceEpoch(key, m_scale.zone);
+    if (m_isWallCopy) {
+        m_current = unskipped(m_current);
+    }
 }
 
 bool SeriesWalk::next()

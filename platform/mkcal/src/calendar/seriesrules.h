@@ -53,7 +53,7 @@ public:
     /// Goes to the last start up to @p key; false when there is none.
     bool goToLast(qint64 key);
 
-    qint64 key() const { return m_scale.keyOfStart(m_scale.isWallBound ? m_current : start()); }
+    qint64 key() const { return m_scale.keyOfStart(m_scale.isAllDay ? m_current : start()); }
     /// The current start in the series' own zone, in the calendar's when it is bound to the wall.
     QDateTime start() const;
     /// The current start as a recurrence identifier: in the time spec of the series' start.

@@ -7,16 +7,34 @@
 
 namespace mKCal
 {
+namespace
+{
+/// The offset from UTC before a gap that @p asUtc lies in or shortly behind: a day and a half
+/// reaches behind the longest one there is, the day that Apia left out in 2011.
+int offsetBefore(const QDateTime &asUtc, const QTimeZone &zone)
+{
+    return zone.offsetFromUtc(asUtc.addSecs(-129600));
+}
+} // namespace
+
 QDateTime atWallClock(const QDate &date, const QTime &time, const QTimeZone &zone)
 {
     const QDateTime shown(date, time, zone);
     if (shown.isValid() || !date.isValid()) {
         return shown;
     }
-    // A day and a half reaches behind the longest gap there is, the day that Apia left out in 2011.
     const QDateTime asUtc(date, time, Qt::UTC);
-    const int offsetBefore = zone.offsetFromUtc(asUtc.addSecs(-129600));
-    return asUtc.addSecs(-offsetBefore).toTimeZone(zone);
+    return asUtc.addSecs(-offsetBefore(asUtc, zone)).toTimeZone(zone);
+}
+
+QDateTime unskipped(const QDateTime &dateTime)
+{
+    const QTimeZone zone = zoneOf(dateTime);
+    const QDateTime moment = dateTime.toUTC();
+    const QDateTime wall = moment.addSecs(offsetBefore(moment, zone));
+    return QDateTime(wall.date(), wall.time(), zone).isValid()
+        ? QDateTime(dateTime.date(), dateTime.time(), Qt::UTC)
+        : wall;
 }
 
 qint64 wallSeconds(const QDateTime &dateTime)

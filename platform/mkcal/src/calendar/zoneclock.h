@@ -19,6 +19,10 @@ constexpr qint64 MsecsPerDay = 86400000;
 /// lost: 03:30 becomes 04:30.
 QDateTime atWallClock(const QDate &date, const QTime &time, const QTimeZone &zone);
 
+/// The wall clock, written as UTC, that atWallClock() reads as @p dateTime: the skipped one when
+/// there is one, otherwise what is shown.
+QDateTime unskipped(const QDateTime &dateTime);
+
 /// What the wall clock shows, as seconds counted as if it were UTC: a measure for distances
 /// between dates that no clock change bends.
 qint64 wallSeconds(const QDateTime &dateTime);
