@@ -50,14 +50,15 @@ def check_sources(report):
     report.run("licences, waiting tests, long files", sys.executable, "tools/check_text.py")
 
 
-def build(report, preset, *words):
-    """Configures and builds as far as it goes; one check."""
-    name = f"build of {preset}"
-    ok, log = output_of("cmake", "--preset", preset)
-    if ok:
-        ok, log = output_of("cmake", "--build", "--preset", preset, *words, "--", "-k", "0")
-    report.add(name, ok, log)
-    return ok
+def build(report, preset):
+    """Configures and builds as far as it goes, one check; returns whether there is a build."""
+    configured, log = output_of("cmake", "--preset", preset)
+    ok = configured
+    if configured:
+        ok, log = output_of("cmake", "--build", "--preset", preset,
+                            "--", "-k", "0", "--quiet")
+    report.add(f"build of {preset}", ok, log)
+    return configured
 
 
 def run_tests(report, preset, *words):
@@ -76,8 +77,8 @@ def run_tests(report, preset, *words):
 
 
 def check_sanitized(report, preset, *words):
-    build(report, preset)
-    run_tests(report, preset, *words)
+    if build(report, preset):
+        run_tests(report, preset, *words)
 
 
 def check_lint(report, everything):
