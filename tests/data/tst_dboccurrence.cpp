@@ -71,6 +71,13 @@ Incidence::Ptr holiday()
     return makeAllDayEvent(QStringLiteral("holiday"), QDate(2011, 3, 10), QDate(2011, 3, 11));
 }
 
+Incidence::Ptr task()
+{
+    const auto todo = makeTodo(QStringLiteral("task"), localTime("2011-03-10T18:00"));
+    todo->setDtStart(localTime("2011-03-10T09:00"));
+    return todo;
+}
+
 Incidence::Ptr allDayInNewYork()
 {
     const QTimeZone zone("America/New_York");
@@ -96,7 +103,7 @@ void DbOccurrenceTest::start_data()
     QTest::newRow("recurring, a second before")
         << daily(meeting()) << localTime("2011-03-15T09:59:59") << localTime("2011-03-14T10:00");
     QTest::newRow("recurring, given in UTC")
-        << daily(meeting()) << localTime("2011-03-15T10:00").toUtc()
+        << daily(meeting()) << localTime("2011-03-15T10:00").toUTC()
         << localTime("2011-03-15T10:00");
     QTest::newRow("recurring, after the clock change")
         << daily(meeting()) << localTime("2011-03-28T12:00") << localTime("2011-03-28T10:00");
@@ -156,10 +163,16 @@ void DbOccurrenceTest::end_data()
     row("single, asked on a later day", meeting(), "2011-03-12T09:00", "2011-03-10T00:00",
         "2011-03-10T23:59:59");
     row("another zone", inNewYork(), "2011-03-10T16:30", "2011-03-10T17:00", "2011-03-10T17:00");
-    row("to-do: its only time", makeTodo(QStringLiteral("todo"), localTime("2011-03-10T18:00")),
-        "2011-03-10T18:00", "2011-03-10T18:00", "2011-03-10T18:00");
+    row("to-do: when it is due", task(), "2011-03-10T09:30", "2011-03-10T18:00",
+        "2011-03-10T18:00");
+    QTest::newRow("to-do that starts nowhere")
+        << Incidence::Ptr(makeTodo(QStringLiteral("todo"), localTime("2011-03-10T18:00")))
+        << localTime("2011-03-10T12:00") << none << none;
+    row("journal ends where it starts",
+        makeJournal(QStringLiteral("journal"), localTime("2011-03-10T18:00")), "2011-03-10T20:00",
+        "2011-03-10T18:00", "2011-03-10T18:00");
     QTest::newRow("over midnight, given in UTC")
-        << daily(nightShift()) << localTime("2011-03-16T01:00").toUtc()
+        << daily(nightShift()) << localTime("2011-03-16T01:00").toUTC()
         << localTime("2011-03-16T06:00") << localTime("2011-03-16T06:00");
     QTest::newRow("to-do without dates") << Incidence::Ptr(makeTodo(QStringLiteral("todo"), none))
                                          << localTime("2011-03-10T12:00") << none << none;
