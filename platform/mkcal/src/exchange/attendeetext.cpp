@@ -87,7 +87,9 @@ QByteArray uriOfAddress(const QString &address)
     if (telephone.match(address).hasMatch()) {
         return "tel:" + QUrl::toPercentEncoding(address, "+()");
     }
-    return address.contains(QLatin1Char(':')) ? address.toUtf8() : "mailto:" + address.toUtf8();
+    const bool isUri =
+        address.contains(QLatin1Char(':')) && !address.startsWith(QLatin1String("tel:"));
+    return isUri ? address.toUtf8() : "mailto:" + address.toUtf8();
 }
 } // namespace
 

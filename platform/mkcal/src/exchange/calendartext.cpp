@@ -13,6 +13,7 @@ namespace mKCal
 namespace
 {
 constexpr qint64 ChunkSize = 64 * 1024;
+constexpr int LongestMark = 4;
 
 struct ByteOrderMark {
     QByteArray bytes;
@@ -62,7 +63,7 @@ CalendarText::CalendarText(QIODevice *device) : m_device(device) { }
 
 bool CalendarText::readLine(QByteArray *line)
 {
-    line->clear();
+    line->resize(0);
     bool anything = false;
     while (m_position < m_text.size() || fill()) {
         if (m_afterCarriageReturn) {
@@ -100,6 +101,9 @@ bool CalendarText::fill()
         const QByteArray chunk = m_device->read(ChunkSize);
         m_bytesRead += chunk.size();
         m_raw += chunk;
+        if (m_unitSize == 0 && m_raw.size() < LongestMark && !chunk.isEmpty()) {
+            continue;
+        }
         if (m_unitSize == 0) {
             const ByteOrderMark &mark = byteOrderMark(m_raw);
             m_unitSize = mark.unitSize;

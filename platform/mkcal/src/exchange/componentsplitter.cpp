@@ -15,6 +15,8 @@ namespace mKCal
 {
 namespace
 {
+constexpr int UsualLineLength = 1024;
+
 // These never stand inside another component, so that one of them ends whatever was left open:
 // a missing END costs one component, not the rest of the file.
 const QList<QByteArray> &topLevelNames()
@@ -67,6 +69,12 @@ QByteArray CalendarComponent::stableUid() const
         }
     }
     return QUuid::createUuidV5(nameSpace, content).toByteArray(QUuid::WithoutBraces);
+}
+
+ComponentSplitter::ComponentSplitter(CalendarText *text) : m_text(text)
+{
+    m_line.reserve(UsualLineLength);
+    m_ahead.reserve(UsualLineLength);
 }
 
 bool ComponentSplitter::next(CalendarComponent *component)
@@ -166,17 +174,16 @@ void ComponentSplitter::append(const QByteArray &line)
 
 void ComponentSplitter::noteProperty()
 {
-    if (m_open.size() > 1 || !strchr("UuRrSsDdTtCcAaXx", m_line.at(0))) {
+    if (m_open.size() > 1) {
         return;
     }
-    const QByteArray name = ContentLine::name(m_line);
-    const auto noted = std::find_if(std::begin(NotedProperties), std::end(NotedProperties),
-                                    [&name](const NotedProperty &it) { return name == it.name; });
-    if (noted != std::end(NotedProperties) && (m_component->*noted->value).isEmpty()) {
-        m_component->*noted->value = ContentLine::value(m_line).trimmed();
+    for (const NotedProperty &noted : NotedProperties) {
+        QByteArray &value = m_component->*noted.value;
+        if (value.isEmpty() && ContentLine::isNamed(m_line, noted.name)) {
+            value = ContentLine::value(m_line).trimmed();
+        }
     }
-    m_component->hasCarriedProperties |=
-        TextCarrier::carries(name, m_line.indexOf(';') == name.size());
+    m_component->hasCarriedProperties |= TextCarrier::carries(m_line);
 }
 
 bool ComponentSplitter::finish(CalendarComponent::Fault fault)

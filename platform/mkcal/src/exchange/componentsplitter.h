@@ -51,7 +51,8 @@ public:
     static constexpr int maximumSize = 32 * 1024 * 1024;
     static constexpr int maximumDepth = 16;
 
-    explicit ComponentSplitter(CalendarText *text) : m_text(text) { }
+    /// @param text outlives this.
+    explicit ComponentSplitter(CalendarText *text);
 
     /// The next component below a VCALENDAR (or beside all of them), VTIMEZONE and unknown ones
     /// too. False at the end.

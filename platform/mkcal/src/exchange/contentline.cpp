@@ -26,6 +26,13 @@ QByteArray ContentLine::name(const QByteArray &line)
     return line.left(int(end - line.begin())).trimmed().toUpper();
 }
 
+bool ContentLine::isNamed(const QByteArray &line, const char *upperCaseName)
+{
+    const auto size = int(qstrlen(upperCaseName));
+    return line.size() > size && qstrnicmp(line.constData(), upperCaseName, uint(size)) == 0
+        && (line.at(size) == ':' || line.at(size) == ';' || line.at(size) == ' ');
+}
+
 int ContentLine::valueStart(const QByteArray &text, int from)
 {
     bool quoted = false;

@@ -15,6 +15,8 @@ namespace ContentLine
 {
 /// In upper case; the whole line when nothing follows the name.
 QByteArray name(const QByteArray &line);
+/// Whether the line has that name (in upper case), without looking at the rest.
+bool isNamed(const QByteArray &line, const char *upperCaseName);
 /// Where the value begins in the line that starts at @p from: after the first colon outside quotes;
 /// -1 when the line has none.
 int valueStart(const QByteArray &text, int from = 0);

@@ -87,7 +87,9 @@ QDateTime untilAsMeant(const RecurrenceRule *rule, const Incidence::Ptr &inciden
         return isFloating ? rule->endDt().toLocalTime() : plainUtc(rule->endDt());
     }
     const auto clock = KDateTime(incidence->dtStart()).timeSpec();
-    return KDateTime(date, time.isValid() ? time : QTime(23, 59, 59), clock).dateTime();
+    const QDateTime until =
+        KDateTime(date, time.isValid() ? time : QTime(23, 59, 59), clock).dateTime();
+    return clock.isClockTime() ? until : until.toUTC();
 }
 
 QList<int> withoutRepetition(const QList<int> &numbers)
@@ -204,17 +206,23 @@ void readEventEnd(const Event::Ptr &event)
     if (!end.isValid() || end < start || end.date().year() > LastYear) {
         event->setDuration(KCalCore::Duration());
         event->setDtEnd(plainUtc(start));
-    } else if (event->hasEndDate()) {
-        event->setDtEnd(plainUtc(end));
+    } else if (event->hasEndDate() && isZoneUtc(end)) {
+        event->setDtEnd(end.toUTC());
     }
 }
 
 /// A to-do's DURATION says when it is due (RFC 5545 section 3.6.2); our views look at that alone.
 void readTodo(const Todo::Ptr &todo)
 {
+    // Todo::dtRecurrence() knows it already.
+    todo->removeCustomProperty("LIBKCAL", "DTRECURRENCE");
+    if (isZoneUtc(todo->dtRecurrence())) {
+        todo->setDtRecurrence(todo->dtRecurrence().toUTC());
+    }
     if (todo->hasDuration() && !todo->hasDueDate() && todo->hasStartDate() && !todo->recurs()) {
         const QDateTime due = todo->duration().end(todo->dtStart());
         todo->setDuration(KCalCore::Duration());
+        todo->setHasDuration(false);
         todo->setDtDue(due);
     }
     if (todo->hasDueDate()) {
@@ -275,9 +283,11 @@ void fromICalendarConvention(const Incidence::Ptr &incidence)
 {
     const QDateTime lastModified = incidence->lastModified();
     incidence->startUpdates();
-    if (incidence->dtStart().isValid()) {
-        const QDateTime start = incidence->dtStart();
-        incidence->setDtStart(incidence->allDay() ? dayStart(start.date()) : plainUtc(start));
+    const QDateTime start = incidence->dtStart();
+    if (start.isValid() && incidence->allDay()) {
+        incidence->setDtStart(dayStart(start.date()));
+    } else if (isZoneUtc(start)) {
+        incidence->setDtStart(start.toUTC());
     }
     if (incidence->hasRecurrenceId()) {
         incidence->setRecurrenceId(plainUtc(incidence->recurrenceId()));
@@ -291,6 +301,8 @@ void fromICalendarConvention(const Incidence::Ptr &incidence)
         readTodo(todo);
     }
     readAlarms(incidence);
+    // Incidence::schedulingID() knows it already.
+    incidence->removeCustomProperty("LIBKCAL", "ID");
     incidence->endUpdates();
     incidence->setLastModified(lastModified);
 }

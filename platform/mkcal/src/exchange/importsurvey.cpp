@@ -3,6 +3,8 @@
 
 #include "importsurvey.h"
 
+#include "missingtimes.h"
+
 namespace mKCal
 {
 void ImportSurvey::addFile(QIODevice *device)
@@ -26,7 +28,7 @@ void ImportSurvey::addFile(QIODevice *device)
 
 void ImportSurvey::addIncidence(const CalendarComponent &component, QPair<int, int> place)
 {
-    const QByteArray identity = component.stableUid() + '\n' + component.recurrenceId;
+    const QByteArray identity = component.stableUid() + '\n' + recurrenceIdentity(component);
     const Version version{place, component.sequence.toInt(), component.stamp,
                           qHash(component.text)};
     const auto other = m_newest.find(identity);

@@ -18,6 +18,10 @@ namespace
 {
 QString faultText(const CalendarComponent &component)
 {
+    if (!component.isIncidence() && component.name != "VTIMEZONE") {
+        return QStringLiteral("%1 is not kept here")
+            .arg(QString::fromUtf8(component.name.left(40)));
+    }
     switch (component.fault) {
     case CalendarComponent::CutOff:
         return QStringLiteral("it is cut off: its END is missing");
@@ -32,10 +36,6 @@ QString faultText(const CalendarComponent &component)
     }
     if (component.isVersion1) {
         return QStringLiteral("it is in the old format vCalendar 1.0");
-    }
-    if (!component.isIncidence()) {
-        return QStringLiteral("%1 is not kept here")
-            .arg(QString::fromUtf8(component.name.left(40)));
     }
     return QString();
 }

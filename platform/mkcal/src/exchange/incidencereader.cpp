@@ -69,9 +69,20 @@ QString refusal(const CalendarComponent &component, const Incidence::Ptr &incide
                            : QStringLiteral("its start cannot be read: %1").arg(quoted(start));
 }
 
+bool hasSenselessEnd(const Incidence::Ptr &incidence)
+{
+    constexpr int lastYear = 9999;
+    const auto event = incidence.dynamicCast<KCalCore::Event>();
+    return event && (event->dtEnd() < event->dtStart() || event->dtEnd().date().year() > lastYear);
+}
+
+/// @param incidence as ICalFormat made it.
 QStringList lossesOf(const CalendarComponent &component, const Incidence::Ptr &incidence)
 {
     QStringList losses;
+    if (hasSenselessEnd(incidence)) {
+        losses += QStringLiteral("its end is before its start or too far away, and was left out");
+    }
     if (component.wasLatin1) {
         losses += QStringLiteral("it is not valid UTF-8 and was taken for Latin-1");
     }
@@ -99,20 +110,8 @@ void IncidenceReader::add(const CalendarComponent &component, TimeZoneTexts &tim
 {
     Entry entry;
     entry.component = component;
-    QByteArray &text = entry.component.text;
-    entry.timeZones = timeZones.translate(&text);
-    if (component.hasCarriedProperties) {
-        TextCarrier::beforeReading(&text);
-    }
-    // At the end, where they prevail over properties of these names that are there already.
-    const int end = text.lastIndexOf("END:");
-    QByteArray identity;
-    if (component.uid.isEmpty()) {
-        identity = "UID:" + component.stableUid() + "\r\n";
-    }
-    identity += TextCarrier::indexProperty + (':' + QByteArray::number(m_batch.size())) + "\r\n";
-    text.insert(end, identity);
-
+    entry.timeZones = timeZones.translate(&entry.component.text);
+    TextCarrier::beforeReading(&entry.component, m_batch.size());
     for (auto it = entry.timeZones.cbegin(); it != entry.timeZones.cend(); ++it) {
         m_timeZonesDiffer |= m_timeZones.value(it.key(), it.value()) != it.value();
         m_timeZones.insert(it.key(), it.value());
@@ -194,14 +193,14 @@ void IncidenceReader::finish(Result *result)
     if (!result->incidence) {
         return;
     }
-    readMissingTimes(result->component.text, result->incidence);
+    readMissingTimes(result->component, result->incidence);
     result->reason = refusal(result->component, result->incidence);
     if (!result->reason.isEmpty()) {
         result->incidence.clear();
         return;
     }
+    result->losses = lossesOf(result->component, result->incidence);
     TextCarrier::afterReading(result->incidence);
     fromICalendarConvention(result->incidence);
-    result->losses = lossesOf(result->component, result->incidence);
 }
 } // namespace mKCal

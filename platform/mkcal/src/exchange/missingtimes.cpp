@@ -16,59 +16,77 @@ namespace mKCal
 {
 namespace
 {
-struct TimeValue {
-    QDateTime time;
-    bool isDate = false;
-};
+constexpr int DateLength = 8;
 
-/// The DATE or local DATE-TIME of that property; invalid when it is neither.
-TimeValue timeOf(const QByteArray &component, const char *property)
+/// The DATE or DATE-TIME that stands in a property's line; invalid when it is neither, and when its
+/// zone is not the system's.
+QDateTime timeOf(const QByteArray &line)
 {
-    const QByteArray line = ContentLine::find(component, property);
     const QString value = QString::fromLatin1(ContentLine::value(line).trimmed());
-    const QDate date = QDate::fromString(value.left(8), QStringLiteral("yyyyMMdd"));
-    if (value.size() == 8) {
-        return {date.startOfDay(Qt::LocalTime), true};
+    const QDate date = QDate::fromString(value.left(DateLength), QStringLiteral("yyyyMMdd"));
+    if (value.size() == DateLength) {
+        return date.startOfDay(Qt::LocalTime);
     }
-    const QTime time = QTime::fromString(value.mid(8), QStringLiteral("'T'HHmmss"));
+    const QTime time = QTime::fromString(value.mid(DateLength, 7), QStringLiteral("'T'HHmmss"));
+    const QByteArray zoneName = ContentLine::parameter(line, "TZID");
     if (!date.isValid() || !time.isValid()) {
-        return {};
+        return QDateTime();
     }
-    const QTimeZone zone(ContentLine::parameter(line, "TZID"));
-    const auto clock = zone.isValid() ? KDateTime::Spec(zone) : KDateTime::Spec::ClockTime();
-    return {KDateTime(date, time, clock).dateTime(), false};
+    if (value.endsWith(QLatin1Char('Z'))) {
+        return QDateTime(date, time, Qt::UTC);
+    }
+    if (zoneName.isEmpty()) {
+        return KDateTime(date, time, KDateTime::Spec::ClockTime()).dateTime();
+    }
+    const QTimeZone zone(zoneName);
+    return zone.isValid() ? KDateTime(date, time, KDateTime::Spec(zone)).dateTime() : QDateTime();
+}
+
+bool isDate(const QByteArray &line)
+{
+    return ContentLine::value(line).trimmed().size() == DateLength;
 }
 } // namespace
 
-void readMissingTimes(const QByteArray &component, const KCalCore::Incidence::Ptr &incidence)
+QByteArray recurrenceIdentity(const CalendarComponent &component)
+{
+    if (component.recurrenceId.isEmpty()) {
+        return QByteArray();
+    }
+    const QDateTime time = timeOf(ContentLine::find(component.text, "RECURRENCE-ID"));
+    return time.isValid() && component.recurrenceId.size() > DateLength
+        ? time.toUTC().toString(Qt::ISODate).toLatin1()
+        : component.recurrenceId;
+}
+
+void readMissingTimes(const CalendarComponent &component, const KCalCore::Incidence::Ptr &incidence)
 {
     if (!incidence->dtStart().isValid()) {
-        const TimeValue start = timeOf(component, "DTSTART");
-        if (start.time.isValid()) {
-            incidence->setDtStart(start.time);
-            incidence->setAllDay(start.isDate);
+        const QByteArray line = ContentLine::find(component.text, "DTSTART");
+        const QDateTime start = timeOf(line);
+        if (start.isValid()) {
+            incidence->setDtStart(start);
+            incidence->setAllDay(isDate(line));
         }
     }
-    if (!incidence->recurrenceId().isValid() && component.contains("RECURRENCE-ID")) {
-        const TimeValue recurrenceId = timeOf(component, "RECURRENCE-ID");
-        if (recurrenceId.time.isValid()) {
-            incidence->setRecurrenceId(recurrenceId.time);
-        }
+    if (!incidence->recurrenceId().isValid() && !component.recurrenceId.isEmpty()) {
+        incidence->setRecurrenceId(timeOf(ContentLine::find(component.text, "RECURRENCE-ID")));
     }
     const auto event = incidence.dynamicCast<KCalCore::Event>();
     const auto todo = incidence.dynamicCast<KCalCore::Todo>();
     if (event && (!event->hasEndDate() || !event->dtEnd().isValid())) {
-        const TimeValue end = timeOf(component, "DTEND");
-        if (end.time.isValid()) {
+        const QByteArray line = ContentLine::find(component.text, "DTEND");
+        const QDateTime end = timeOf(line);
+        if (end.isValid()) {
             // As ICalFormat hands them out: the last day of an all-day event.
-            event->setDtEnd(end.isDate ? end.time.date().addDays(-1).startOfDay(Qt::LocalTime)
-                                       : end.time);
+            event->setDtEnd(isDate(line) ? end.date().addDays(-1).startOfDay(Qt::LocalTime) : end);
         }
     } else if (todo && !todo->dtDue(true).isValid()) {
-        const TimeValue due = timeOf(component, "DUE");
-        if (due.time.isValid()) {
-            todo->setDtDue(due.time, true);
-            todo->setAllDay(due.isDate);
+        const QByteArray line = ContentLine::find(component.text, "DUE");
+        const QDateTime due = timeOf(line);
+        if (due.isValid()) {
+            todo->setDtDue(due, true);
+            todo->setAllDay(isDate(line));
         }
     }
 }

@@ -16,4 +16,5 @@ set(MKCAL_EXCHANGE_SOURCES
     src/exchange/incidencereader.cpp
     src/exchange/missingtimes.cpp
     src/exchange/textcarrier.cpp
+    src/exchange/timezonerules.cpp
     src/exchange/timezonetexts.cpp)

@@ -21,11 +21,14 @@ namespace
 // A noncharacter of Unicode, which no text for interchange contains.
 const QByteArray CommaInside = QByteArrayLiteral("\xEF\xB7\x90");
 constexpr QChar CommaInsideCharacter(0xFDD0);
+constexpr QChar NoSummary(0xFDD1);
 
 constexpr const char *ResourcesProperty = "X-DASKEL-RESOURCES";
 constexpr const char *CompletedProperty = "X-DASKEL-COMPLETED";
 const QByteArray HexParameter = QByteArrayLiteral("X-DASKEL-HEX=");
 const QByteArray RelatedPrefix = QByteArrayLiteral("X-DASKEL-RELATED-");
+
+constexpr const char *CarriedProperties[] = {"RESOURCES", "CATEGORIES", "RELATED-TO", "COMPLETED"};
 
 struct RelationKind {
     const char *property;
@@ -94,6 +97,12 @@ template <typename Convert> void convertParameters(const Incidence::Ptr &inciden
     }
 }
 
+/// An X-property that ICalFormat does not know.
+bool isForeignProperty(const QByteArray &line)
+{
+    return qstrnicmp(line.constData(), "X-", 2) == 0 && !line.startsWith("X-KDE-");
+}
+
 QByteArray customPropertyBeforeReading(const QByteArray &line)
 {
     const int nameSize = line.indexOf(';');
@@ -117,14 +126,16 @@ QByteArray customPropertyAfterWriting(const QByteArray &line)
         + line.mid(valueStart - 1);
 }
 
-QByteArray relationBeforeReading(const QByteArray &line, bool isJournal)
+QByteArray relationBeforeReading(QByteArray line, bool isJournal)
 {
-    const QByteArray kind = ContentLine::parameter(line, "RELTYPE").toUpper();
-    const bool isParent = kind.isEmpty() || kind == "PARENT";
+    const QByteArray kind = ContentLine::parameter(line, "RELTYPE");
+    const bool isParent = kind.isEmpty() || kind.toUpper() == "PARENT";
     if (isParent && !isJournal) {
         return line;
     }
-    return renamed(line, RelatedPrefix + (isParent ? QByteArray("PARENT") : kind));
+    line.replace(";RELTYPE=" + kind, QByteArray());
+    return customPropertyBeforeReading(
+        renamed(line, RelatedPrefix + (isParent ? QByteArray("PARENT") : kind.toUpper())));
 }
 
 /// The text of a list of texts: commas part them, semicolons are escaped, which ICalFormat omits.
@@ -190,24 +201,16 @@ QByteArray ruleAfterWriting(const QByteArray &line, bool isFloating)
     }
     return line.left(start) + parts.join(';');
 }
-} // namespace
-
-bool TextCarrier::carries(const QByteArray &propertyName, bool hasParameters)
+/// The text of the component with everything that is carried in properties of ours.
+QByteArray disguised(const QByteArray &component)
 {
-    return propertyName == "RESOURCES" || propertyName == "CATEGORIES"
-        || propertyName == "RELATED-TO" || propertyName == "COMPLETED" || propertyName == "ATTENDEE"
-        || (hasParameters && propertyName.startsWith("X-"));
-}
-
-void TextCarrier::beforeReading(QByteArray *component)
-{
-    const bool isJournal = component->startsWith("BEGIN:VJOURNAL");
-    const bool recurs = !ContentLine::find(*component, "RRULE").isEmpty()
-        || !ContentLine::find(*component, "RDATE").isEmpty();
+    const bool isJournal = component.startsWith("BEGIN:VJOURNAL");
+    const bool recurs = !ContentLine::find(component, "RRULE").isEmpty()
+        || !ContentLine::find(component, "RDATE").isEmpty();
     QByteArray result;
     QByteArray resources;
     int depth = 0;
-    QList<QByteArray> lines = ContentLine::split(*component);
+    QList<QByteArray> lines = ContentLine::split(component);
     const QByteArray end = lines.takeLast();
     for (QByteArray line : qAsConst(lines)) {
         const QByteArray name = ContentLine::name(line);
@@ -222,11 +225,15 @@ void TextCarrier::beforeReading(QByteArray *component)
             continue;
         } else if (name == "RELATED-TO") {
             line = relationBeforeReading(line, isJournal);
+            // An incidence has one relation of each kind; ICalFormat would join several.
+            if (result.contains("\r\n" + ContentLine::name(line))) {
+                continue;
+            }
         } else if (name == "COMPLETED" && recurs) {
             line = renamed(line, CompletedProperty);
         } else if (name == "ATTENDEE") {
             line = AttendeeText::beforeReading(line);
-        } else if (name.startsWith("X-")) {
+        } else if (isForeignProperty(line)) {
             line = customPropertyBeforeReading(line);
         }
         result += line + "\r\n";
@@ -235,12 +242,43 @@ void TextCarrier::beforeReading(QByteArray *component)
     if (!resources.isEmpty()) {
         result += QByteArray(ResourcesProperty) + ':' + resources + "\r\n";
     }
-    *component = result + end + "\r\n";
+    return result + end + "\r\n";
+}
+} // namespace
+
+bool TextCarrier::carries(const QByteArray &line)
+{
+    if (ContentLine::isNamed(line, "ATTENDEE")) {
+        return AttendeeText::beforeReading(line) != line;
+    }
+    if (isForeignProperty(line)) {
+        return line.left(line.indexOf(':')).contains(';');
+    }
+    return std::any_of(std::begin(CarriedProperties), std::end(CarriedProperties),
+                       [&line](const char *name) { return ContentLine::isNamed(line, name); });
 }
 
+void TextCarrier::beforeReading(CalendarComponent *component, int index)
+{
+    if (component->hasCarriedProperties) {
+        component->text = disguised(component->text);
+    }
+    QByteArray added = indexProperty + (':' + QByteArray::number(index)) + "\r\n";
+    if (component->uid.isEmpty()) {
+        added += "UID:" + component->stableUid() + "\r\n";
+    }
+    if (!component->text.contains("\nSUMMARY")) {
+        added += "SUMMARY:" + QString(NoSummary).toUtf8() + "\r\n";
+    }
+    // At the end, where they prevail over properties of these names that are there already.
+    component->text.insert(component->text.lastIndexOf("END:"), added);
+}
 void TextCarrier::afterReading(const Incidence::Ptr &incidence)
 {
     incidence->removeNonKDECustomProperty(indexProperty);
+    if (incidence->summary() == NoSummary) {
+        incidence->setSummary(QString(), false);
+    }
     AttendeeText::afterReading(incidence);
     convertParameters(incidence, parametersFromHex);
     if (incidence->categories().join(QChar()).contains(CommaInsideCharacter)) {
@@ -274,10 +312,8 @@ void TextCarrier::beforeWriting(const Incidence::Ptr &clone)
                                        commasAway(clone->resources()).join(QLatin1Char(',')));
     }
     for (const RelationKind &kind : RelationKinds) {
-        const bool isWritten =
-            kind.type == Incidence::RelTypeParent && clone->type() != Incidence::TypeJournal;
         const QString uid = clone->relatedTo(kind.type);
-        if (!isWritten && !uid.isEmpty()) {
+        if (kind.type != Incidence::RelTypeParent && !uid.isEmpty()) {
             clone->setNonKDECustomProperty(kind.property, uid);
         }
     }

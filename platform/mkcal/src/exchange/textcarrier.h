@@ -4,6 +4,8 @@
 #ifndef MKCAL_TEXTCARRIER_H
 #define MKCAL_TEXTCARRIER_H
 
+#include "componentsplitter.h"
+
 #include <kcalcompat/kcalcore.h>
 
 namespace mKCal
@@ -11,10 +13,11 @@ namespace mKCal
 /// Carries past ICalFormat what it loses or alters, in properties of ours that it leaves alone. In
 /// the file they have their names of RFC 5545 wherever there is one:
 /// - RESOURCES, and commas inside a category or resource (they would split it);
-/// - RELATED-TO of other kinds than parent (they would become the parent), and that of journals;
+/// - RELATED-TO of other kinds than parent (they would become the parent), and of journals;
 /// - COMPLETED of a recurring to-do (it would move the series on to its next occurrence)
 ///   and its absence (the time of writing would be put in);
 /// - parameters of X-properties, which lose their quotes (an address is one, for a phone's map);
+/// - a summary that is not there (the description would become it);
 /// - attendees that were removed from a meeting or are no e-mail address (AttendeeText).
 ///
 /// What ICalFormat writes against RFC 5545 is put right: an all-day RECURRENCE-ID with a time of
@@ -24,10 +27,10 @@ namespace mKCal
 /// carried: RFC 5545 times have whole seconds, and nobody has missed the others yet.
 namespace TextCarrier
 {
-/// Whether text with that property (in upper case) has to go through beforeReading().
-bool carries(const QByteArray &propertyName, bool hasParameters);
-/// Changes the unfolded text of a component before ICalFormat reads it.
-void beforeReading(QByteArray *component);
+/// Whether text with that property has to go through beforeReading().
+bool carries(const QByteArray &line);
+/// Changes the text of a component before ICalFormat reads it, and gives it @p index.
+void beforeReading(CalendarComponent *component, int index);
 /// Puts what was carried where it belongs in an incidence that was read.
 void afterReading(const KCalCore::Incidence::Ptr &incidence);
 /// Changes a clone before ICalFormat writes it.

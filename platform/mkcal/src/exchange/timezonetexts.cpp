@@ -4,8 +4,12 @@
 #include "timezonetexts.h"
 
 #include "contentline.h"
+#include "timezonerules.h"
 
 #include <QTimeZone>
+
+#include <algorithm>
+#include <cctype>
 
 namespace mKCal
 {
@@ -13,9 +17,13 @@ namespace
 {
 const QByteArray TzidParameter = QByteArrayLiteral(";TZID=");
 
+/// QTimeZone takes any name that ends in a number for a POSIX rule: "Office 3" would be three hours
+/// west of Greenwich.
 bool isSystemZone(const QByteArray &name)
 {
-    return !name.isEmpty() && QTimeZone(name).isValid();
+    const bool mayBeRule = std::any_of(name.begin(), name.end(), [](char c) { return isdigit(c); });
+    return !name.isEmpty() && (!mayBeRule || name.contains('/') || name.startsWith("UTC"))
+        && QTimeZone(name).isValid();
 }
 
 /// The zone at the end of a path, such as America/Argentina/Salta, Europe/Helsinki, UTC.
@@ -49,7 +57,7 @@ QMap<QByteArray, QByteArray> TimeZoneTexts::translate(QByteArray *component)
         }
         const QByteArray line = component->mid(lineStart, valueStart - lineStart);
         const QByteArray name = ContentLine::parameter(line, "TZID");
-        const QByteArray known = systemName(name);
+        const QByteArray known = systemName(name, component->mid(valueStart, 4).toInt());
         if (!known.isEmpty() && known != name) {
             const int start = position + TzidParameter.size();
             const int quotes = component->at(start) == '"' ? 2 : 0;
@@ -61,16 +69,16 @@ QMap<QByteArray, QByteArray> TimeZoneTexts::translate(QByteArray *component)
     return definitions;
 }
 
-QByteArray TimeZoneTexts::systemName(const QByteArray &timeZoneId)
+QByteArray TimeZoneTexts::systemName(const QByteArray &timeZoneId, int year)
 {
     auto known = m_systemNames.find(timeZoneId);
     if (known == m_systemNames.end()) {
-        known = m_systemNames.insert(timeZoneId, findSystemName(timeZoneId));
+        known = m_systemNames.insert(timeZoneId, findSystemName(timeZoneId, year));
     }
     return *known;
 }
 
-QByteArray TimeZoneTexts::findSystemName(const QByteArray &timeZoneId) const
+QByteArray TimeZoneTexts::findSystemName(const QByteArray &timeZoneId, int year) const
 {
     if (isSystemZone(timeZoneId)) {
         return timeZoneId;
@@ -83,8 +91,14 @@ QByteArray TimeZoneTexts::findSystemName(const QByteArray &timeZoneId) const
     if (!byPath.isEmpty()) {
         return byPath;
     }
-    const QByteArray location =
-        ContentLine::value(ContentLine::find(m_texts.value(timeZoneId), "X-LIC-LOCATION"));
-    return isSystemZone(location) ? location : QByteArray();
+    const QByteArray definition = m_texts.value(timeZoneId);
+    const QByteArray location = ContentLine::value(ContentLine::find(definition, "X-LIC-LOCATION"));
+    if (isSystemZone(location)) {
+        return location;
+    }
+    // Definitions often have the rules of today alone, whatever the years of their events.
+    const TimeZoneRules rules(definition);
+    const QByteArray byRules = rules.systemZone(year);
+    return byRules.isEmpty() ? rules.systemZone(QDate::currentDate().year()) : byRules;
 }
 } // namespace mKCal

@@ -14,8 +14,8 @@ namespace mKCal
 ///
 /// A name of the system's zone database means that zone, whatever rules come with it. Names of
 /// Windows, names with the maker's path before them (`/maker/1/Europe/Helsinki`) and those whose
-/// definition names the zone (X-LIC-LOCATION) are translated. The others are left to ICalFormat,
-/// which looks for a zone with the same rules and takes the time as floating when there is none.
+/// definition names the zone (X-LIC-LOCATION) are translated, then those whose rules are those of a
+/// system's zone. The others are left to ICalFormat, which takes most of them as floating.
 class TimeZoneTexts
 {
 public:
@@ -27,8 +27,8 @@ public:
     QMap<QByteArray, QByteArray> translate(QByteArray *component);
 
 private:
-    QByteArray systemName(const QByteArray &timeZoneId);
-    QByteArray findSystemName(const QByteArray &timeZoneId) const;
+    QByteArray systemName(const QByteArray &timeZoneId, int year);
+    QByteArray findSystemName(const QByteArray &timeZoneId, int year) const;
 
     QHash<QByteArray, QByteArray> m_texts;
     QHash<QByteArray, QByteArray> m_systemNames; ///< looked up before; empty: there is none
