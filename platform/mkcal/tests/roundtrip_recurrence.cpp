@@ -42,7 +42,7 @@ Feature rule(const char *name, RecurrenceRule::PeriodType period,
         });
 }
 
-Features rules()
+Features clockRules()
 {
     using Rule = RecurrenceRule;
     const QList<int> seconds{0, 30, 59};
@@ -80,6 +80,13 @@ Features rules()
         rule(
             "ten times", Rule::rDaily, [](Rule &rule) { rule.setDuration(10); },
             [](const Rule &rule) { return rule.duration() == 10; }),
+    };
+}
+
+Features calendarRules()
+{
+    using Rule = RecurrenceRule;
+    return {
         rule(
             "weekly with a week that starts on Sunday", Rule::rWeekly,
             [](Rule &rule) {
@@ -143,9 +150,8 @@ Features rules()
     };
 }
 
-Features dates()
+Features wholeSeries()
 {
-    const QList<QDateTime> moments{utc(2011, 5, 9), helsinki(2011, 6, 9)};
     return {
         recurring(
             "two rules",
@@ -176,11 +182,37 @@ Features dates()
                 return recurrence.rRules().size() == 1 && recurrence.exRules().size() == 1
                     && recurrence.exRules().first()->frequency() == 2;
             }),
+        feature<Event>(
+            "all-day series", plainEvent(),
+            [](Event &event) {
+                event.setDtStart(floating(2011, 5, 2));
+                event.setDtEnd(floating(2011, 5, 3));
+                event.setAllDay(true);
+                event.recurrence()->setWeekly(1, QBitArray(7, true));
+                event.recurrence()->setEndDate(QDate(2011, 12, 24));
+            },
+            [](const Event &event) {
+                return event.recurrence()->allDay()
+                    && event.recurrence()->rRules().first()->allDay()
+                    && event.recursOn(QDate(2011, 12, 24), QTimeZone("Europe/Helsinki"))
+                    && !event.recursOn(QDate(2011, 12, 25), QTimeZone("Europe/Helsinki"));
+            }),
+    };
+}
+
+QList<QDateTime> moments()
+{
+    return {utc(2011, 5, 9), helsinki(2011, 6, 9)};
+}
+
+Features excludedDates()
+{
+    return {
         recurring(
             "excluded moments",
-            [moments](Recurrence &recurrence) {
+            [](Recurrence &recurrence) {
                 recurrence.setDaily(1);
-                recurrence.setExDateTimes(moments);
+                recurrence.setExDateTimes(moments());
             },
             [](const Recurrence &recurrence) {
                 const auto dates = recurrence.exDateTimes();
@@ -200,11 +232,16 @@ Features dates()
             "excluded days without a rule",
             [](Recurrence &recurrence) { recurrence.addExDate(QDate(2011, 5, 9)); },
             [](const Recurrence &recurrence) { return recurrence.exDates().size() == 1; }),
+    };
+}
+
+Features addedDates()
+{
+    return {
         recurring(
-            "added moments",
-            [moments](Recurrence &recurrence) { recurrence.setRDateTimes(moments); },
-            [moments](const Recurrence &recurrence) {
-                return recurrence.rDateTimes() == moments
+            "added moments", [](Recurrence &recurrence) { recurrence.setRDateTimes(moments()); },
+            [](const Recurrence &recurrence) {
+                return recurrence.rDateTimes() == moments()
                     && recurrence.rDateTimes().first().timeSpec() == Qt::UTC;
             }),
         recurring(
@@ -231,26 +268,11 @@ Features dates()
                 const Period period = recurrence.rDateTimePeriod(helsinki(2011, 7, 1));
                 return period.hasDuration() && period.duration() == Duration(2, Duration::Days);
             }),
-        feature<Event>(
-            "all-day series", plainEvent(),
-            [](Event &event) {
-                event.setDtStart(floating(2011, 5, 2));
-                event.setDtEnd(floating(2011, 5, 3));
-                event.setAllDay(true);
-                event.recurrence()->setWeekly(1, QBitArray(7, true));
-                event.recurrence()->setEndDate(QDate(2011, 12, 24));
-            },
-            [](const Event &event) {
-                return event.recurrence()->allDay()
-                    && event.recurrence()->rRules().first()->allDay()
-                    && event.recursOn(QDate(2011, 12, 24), QTimeZone("Europe/Helsinki"))
-                    && !event.recursOn(QDate(2011, 12, 25), QTimeZone("Europe/Helsinki"));
-            }),
     };
 }
 } // namespace
 
 Features recurrenceFeatures()
 {
-    return rules() + dates();
+    return clockRules() + calendarRules() + wholeSeries() + excludedDates() + addedDates();
 }

@@ -22,12 +22,6 @@ Features plainTexts()
                     && !event.summaryIsRich();
             }),
         feature<Event>(
-            "rich summary", plainEvent(),
-            [](Event &event) { event.setSummary(QStringLiteral("<b>a</b>"), true); },
-            [](const Event &event) {
-                return event.summaryIsRich() && event.summary() == QLatin1String("<b>a</b>");
-            }),
-        feature<Event>(
             "plain summary that looks rich", plainEvent(),
             [](Event &event) { event.setSummary(QStringLiteral("a <b>c</b>"), false); },
             [](const Event &event) {
@@ -39,6 +33,28 @@ Features plainTexts()
                 event.setDescription(QStringLiteral("line\r\n\t").repeated(9000), false);
             },
             [](const Event &event) { return event.description().size() == 63000; }),
+        feature<Event>(
+            "location", plainEvent(),
+            [](Event &event) { event.setLocation(QStringLiteral("Room, 5"), false); },
+            [](const Event &event) { return event.location() == QLatin1String("Room, 5"); }),
+        feature<Event>(
+            "text that holds a null character", plainEvent(),
+            [](Event &event) {
+                event.setSummary(QStringLiteral("a") + QChar(0) + QLatin1Char('b'), false);
+            },
+            [](const Event &event) { return event.summary().size() == 3; }),
+    };
+}
+
+Features richTexts()
+{
+    return {
+        feature<Event>(
+            "rich summary", plainEvent(),
+            [](Event &event) { event.setSummary(QStringLiteral("<b>a</b>"), true); },
+            [](const Event &event) {
+                return event.summaryIsRich() && event.summary() == QLatin1String("<b>a</b>");
+            }),
         feature<Event>(
             "rich description", plainEvent(),
             [](Event &event) { event.setDescription(QStringLiteral("<i>d</i>"), true); },
@@ -57,21 +73,11 @@ Features plainTexts()
                     && event.description() == QLatin1String("d");
             }),
         feature<Event>(
-            "location", plainEvent(),
-            [](Event &event) { event.setLocation(QStringLiteral("Room, 5"), false); },
-            [](const Event &event) { return event.location() == QLatin1String("Room, 5"); }),
-        feature<Event>(
             "rich location", plainEvent(),
             [](Event &event) { event.setLocation(QStringLiteral("<u>l</u>"), true); },
             [](const Event &event) {
                 return event.locationIsRich() && event.location() == QLatin1String("<u>l</u>");
             }),
-        feature<Event>(
-            "text that holds a null character", plainEvent(),
-            [](Event &event) {
-                event.setSummary(QStringLiteral("a") + QChar(0) + QLatin1Char('b'), false);
-            },
-            [](const Event &event) { return event.summary().size() == 3; }),
     };
 }
 
@@ -131,7 +137,7 @@ Features lists()
     };
 }
 
-Features numbers()
+Features classes()
 {
     return {
         feature<Event>(
@@ -161,6 +167,12 @@ Features numbers()
             "transparent", plainEvent(),
             [](Event &event) { event.setTransparency(Event::Transparent); },
             [](const Event &event) { return event.transparency() == Event::Transparent; }),
+    };
+}
+
+Features numbers()
+{
+    return {
         feature<Event>(
             "priority", plainEvent(), [](Event &event) { event.setPriority(9); },
             [](const Event &event) { return event.priority() == 9; }),
@@ -195,6 +207,12 @@ Features numbers()
                 event.setGeoLongitude(0);
             },
             [](const Event &event) { return event.hasGeo() && event.geoLatitude() == 0; }),
+    };
+}
+
+Features links()
+{
+    return {
         feature<Event>(
             "colour", plainEvent(), [](Event &event) { event.setColor(QStringLiteral("tomato")); },
             [](const Event &event) { return event.color() == QLatin1String("tomato"); }),
@@ -234,5 +252,5 @@ Features numbers()
 
 Features textFeatures()
 {
-    return plainTexts() + lists() + numbers();
+    return plainTexts() + richTexts() + lists() + classes() + numbers() + links();
 }

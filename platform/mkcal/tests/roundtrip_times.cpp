@@ -73,82 +73,93 @@ Features startFeatures()
                      [](const QDateTime &start) { return start.time().msec() == 123; }),
     };
 }
+
+std::function<void(Event &)> allDay(const QDateTime &start)
+{
+    return [start](Event &event) {
+        event.setDtStart(start);
+        event.setDtEnd(start.addDays(3));
+        event.setAllDay(true);
+    };
+}
+
+Features endFeatures()
+{
+    return {
+        feature<Event>("all-day", plainEvent(), allDay(floating(2011, 5, 2)),
+                       [](const Event &event) {
+                           return event.allDay() && event.dtEnd() == floating(2011, 5, 5);
+                       }),
+        feature<Event>("all-day in a zone", plainEvent(), allDay(helsinki(2011, 5, 2, 0)),
+                       [](const Event &event) {
+                           return event.allDay() && event.dtStart().timeSpec() == Qt::TimeZone;
+                       }),
+        feature<Event>("all-day in UTC", plainEvent(), allDay(utc(2011, 5, 2, 0)),
+                       [](const Event &event) {
+                           return event.allDay() && event.dtStart().timeSpec() == Qt::UTC;
+                       }),
+        feature<Event>(
+            "end in another zone than the start", plainEvent(),
+            [](Event &event) {
+                event.setDtEnd(QDateTime(QDate(2011, 5, 2), QTime(20, 0), QTimeZone("Asia/Tokyo")));
+            },
+            [](const Event &event) {
+                return event.dtEnd().timeZone().id() == "Asia/Tokyo"
+                    && event.dtStart().timeZone().id() == "Europe/Helsinki";
+            }),
+        feature<Event>(
+            "no end", plainEvent(), [](Event &event) { event.setDtEnd(QDateTime()); },
+            [](const Event &event) { return !event.hasEndDate(); }),
+        feature<Event>(
+            "duration in seconds", plainEvent(),
+            [](Event &event) { event.setDuration(Duration(5400)); },
+            [](const Event &event) {
+                return event.hasDuration() && !event.hasEndDate()
+                    && event.duration().value() == 5400 && !event.duration().isDaily();
+            }),
+        feature<Event>(
+            "duration in days", plainEvent(),
+            [](Event &event) { event.setDuration(Duration(2, Duration::Days)); },
+            [](const Event &event) { return event.duration() == Duration(2, Duration::Days); }),
+    };
+}
+
+Features identityFeatures()
+{
+    return {
+        feature<Event>(
+            "created", plainEvent(), [](Event &event) { event.setCreated(utc(2001, 2, 3)); },
+            [](const Event &event) { return event.created() == utc(2001, 2, 3); }),
+        feature<Event>(
+            "last modified", plainEvent(),
+            [](Event &event) { event.setLastModified(utc(2001, 2, 3)); },
+            [](const Event &event) { return event.lastModified() == utc(2001, 2, 3); }),
+        feature<Event>(
+            "recurrence identifier", plainEvent(),
+            [](Event &event) { event.setRecurrenceId(helsinki(2011, 5, 1)); },
+            [](const Event &event) { return event.recurrenceId() == helsinki(2011, 5, 1); }),
+        feature<Event>(
+            "all-day recurrence identifier", plainEvent(),
+            [](Event &event) {
+                allDay(floating(2011, 5, 2))(event);
+                event.setRecurrenceId(floating(2011, 5, 1));
+            },
+            [](const Event &event) {
+                return event.recurrenceId() == floating(2011, 5, 1)
+                    && event.recurrenceId().timeSpec() == Qt::LocalTime;
+            }),
+        feature<Event>(
+            "this and future", plainEvent(),
+            [](Event &event) {
+                event.setRecurrenceId(helsinki(2011, 5, 1));
+                event.setThisAndFuture(true);
+            },
+            [](const Event &event) { return event.thisAndFuture(); }),
+    };
+}
 } // namespace
 
 Features timeFeatures()
 {
-    const auto allDay = [](const QDateTime &start) {
-        return [start](Event &event) {
-            event.setDtStart(start);
-            event.setDtEnd(start.addDays(3));
-            event.setAllDay(true);
-        };
-    };
-    return startFeatures()
-        + Features{
-            feature<Event>("all-day", plainEvent(), allDay(floating(2011, 5, 2)),
-                           [](const Event &event) {
-                               return event.allDay() && event.dtEnd() == floating(2011, 5, 5);
-                           }),
-            feature<Event>("all-day in a zone", plainEvent(), allDay(helsinki(2011, 5, 2, 0)),
-                           [](const Event &event) {
-                               return event.allDay() && event.dtStart().timeSpec() == Qt::TimeZone;
-                           }),
-            feature<Event>("all-day in UTC", plainEvent(), allDay(utc(2011, 5, 2, 0)),
-                           [](const Event &event) {
-                               return event.allDay() && event.dtStart().timeSpec() == Qt::UTC;
-                           }),
-            feature<Event>(
-                "end in another zone than the start", plainEvent(),
-                [](Event &event) {
-                    event.setDtEnd(
-                        QDateTime(QDate(2011, 5, 2), QTime(20, 0), QTimeZone("Asia/Tokyo")));
-                },
-                [](const Event &event) {
-                    return event.dtEnd().timeZone().id() == "Asia/Tokyo"
-                        && event.dtStart().timeZone().id() == "Europe/Helsinki";
-                }),
-            feature<Event>(
-                "no end", plainEvent(), [](Event &event) { event.setDtEnd(QDateTime()); },
-                [](const Event &event) { return !event.hasEndDate(); }),
-            feature<Event>(
-                "duration in seconds", plainEvent(),
-                [](Event &event) { event.setDuration(Duration(5400)); },
-                [](const Event &event) {
-                    return event.hasDuration() && !event.hasEndDate()
-                        && event.duration().value() == 5400 && !event.duration().isDaily();
-                }),
-            feature<Event>(
-                "duration in days", plainEvent(),
-                [](Event &event) { event.setDuration(Duration(2, Duration::Days)); },
-                [](const Event &event) { return event.duration() == Duration(2, Duration::Days); }),
-            feature<Event>(
-                "created", plainEvent(), [](Event &event) { event.setCreated(utc(2001, 2, 3)); },
-                [](const Event &event) { return event.created() == utc(2001, 2, 3); }),
-            feature<Event>(
-                "last modified", plainEvent(),
-                [](Event &event) { event.setLastModified(utc(2001, 2, 3)); },
-                [](const Event &event) { return event.lastModified() == utc(2001, 2, 3); }),
-            feature<Event>(
-                "recurrence identifier", plainEvent(),
-                [](Event &event) { event.setRecurrenceId(helsinki(2011, 5, 1)); },
-                [](const Event &event) { return event.recurrenceId() == helsinki(2011, 5, 1); }),
-            feature<Event>(
-                "all-day recurrence identifier", plainEvent(),
-                [allDay](Event &event) {
-                    allDay(floating(2011, 5, 2))(event);
-                    event.setRecurrenceId(floating(2011, 5, 1));
-                },
-                [](const Event &event) {
-                    return event.recurrenceId() == floating(2011, 5, 1)
-                        && event.recurrenceId().timeSpec() == Qt::LocalTime;
-                }),
-            feature<Event>(
-                "this and future", plainEvent(),
-                [](Event &event) {
-                    event.setRecurrenceId(helsinki(2011, 5, 1));
-                    event.setThisAndFuture(true);
-                },
-                [](const Event &event) { return event.thisAndFuture(); }),
-        };
+    return startFeatures() + endFeatures() + identityFeatures();
 }

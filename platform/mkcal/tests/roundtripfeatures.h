@@ -40,7 +40,7 @@ inline QDateTime floating(int year, int month, int day, int hour = 0)
 
 inline KCalCore::Event::Ptr plainEvent()
 {
-    const auto event = KCalCore::Event::Ptr::create();
+    auto event = KCalCore::Event::Ptr::create();
     event->setUid(QStringLiteral("round-trip"));
     event->setDtStart(helsinki(2011, 5, 2, 10));
     event->setDtEnd(helsinki(2011, 5, 2, 11));
@@ -49,7 +49,7 @@ inline KCalCore::Event::Ptr plainEvent()
 
 inline KCalCore::Todo::Ptr plainTodo()
 {
-    const auto todo = KCalCore::Todo::Ptr::create();
+    auto todo = KCalCore::Todo::Ptr::create();
     todo->setUid(QStringLiteral("round-trip"));
     todo->setDtStart(helsinki(2011, 5, 2, 10));
     todo->setDtDue(helsinki(2011, 5, 3, 10), true);
@@ -58,7 +58,7 @@ inline KCalCore::Todo::Ptr plainTodo()
 
 inline KCalCore::Journal::Ptr plainJournal()
 {
-    const auto journal = KCalCore::Journal::Ptr::create();
+    auto journal = KCalCore::Journal::Ptr::create();
     journal->setUid(QStringLiteral("round-trip"));
     journal->setDtStart(helsinki(2011, 5, 2, 10));
     return journal;

@@ -34,7 +34,7 @@ namespace
 /// An event with rows in every child table.
 Event::Ptr richEvent()
 {
-    const Event::Ptr event = plainEvent();
+    Event::Ptr event = plainEvent();
     const Features features = recurrenceFeatures() + alarmFeatures() + peopleFeatures();
     for (const Feature &feature : features)
         feature.give(*event);
@@ -64,7 +64,7 @@ void TestSqliteHostile::readsOn_data()
         QTest::newRow(name) << QByteArray(damage) << readable;
     };
     row("unknown type", "UPDATE Components SET type = 7 WHERE id = 1", 1);
-    row("type in words", "UPDATE Components SET type = 'lunch'", 2);
+    row("type in words", "UPDATE Components SET type = 'lunch'");
     row("no identifier", "UPDATE Components SET uid = '' WHERE id = 1", 1);
     row("enumerations beyond their end",
         "UPDATE Components SET status = 99, secrecy = -1, transparency = 1e30");
@@ -91,7 +91,6 @@ void TestSqliteHostile::readsOn_data()
     row("flags beyond", "UPDATE Components SET flags = 9223372036854775807");
     row("rules that are none",
         "UPDATE Rule SET period = 99, frequency = 0, count = -9223372036854775808");
-    row("rule that repeats backwards", "UPDATE Rule SET frequency = -1");
     row("rule with parts beyond their range",
         "UPDATE Rule SET bySecond = '-1,61,x', byMinute = '99999999999', byHour = ',,,',"
         " byDay = 'XX,99MO,MO', byMonthDay = '0,32', byYearDay = '367', byWeekNumber = '54',"

@@ -144,7 +144,7 @@ QString recIdText(const QDateTime &recurrenceId, bool allDay)
     if (!recurrenceId.isValid())
         return QStringLiteral("");
     const bool floating = recurrenceId.timeSpec() == Qt::LocalTime;
-    if (allDay || (floating && recurrenceId.time() == QTime(0, 0)))
+    if ((allDay || floating) && recurrenceId.time() == QTime(0, 0))
         return recurrenceId.toString(QStringLiteral("yyyyMMdd"));
     if (floating)
         return recurrenceId.toString(QStringLiteral("yyyyMMdd'T'HHmmss"));

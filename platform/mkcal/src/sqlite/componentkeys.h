@@ -39,9 +39,9 @@ struct ComponentKeys {
     static ComponentKeys of(const KCalCore::Incidence &incidence);
 };
 
-/// The column `recId`: "" for a null one, "yyyyMMdd" for all-day (and floating midnight, which is
-/// how an all-day identifier looks on a timed exception), "yyyyMMddThhmmss" for floating,
-/// "yyyyMMddThhmmssZ" in UTC for everything else.
+/// The column `recId`: "" for a null one, "yyyyMMdd" for a midnight that is all-day or floating,
+/// "yyyyMMddThhmmss" for floating, "yyyyMMddThhmmssZ" in UTC for everything else. It stays the same
+/// when an exception becomes all-day or stops being so, unless its series is all-day in a zone.
 QString recIdText(const QDateTime &recurrenceId, bool allDay);
 QString recIdText(const KDateTime &recurrenceId);
 QString recIdText(const KCalCore::Incidence &incidence);

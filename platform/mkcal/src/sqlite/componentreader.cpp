@@ -15,6 +15,8 @@
 
 #include <QUrl>
 
+#include <map>
+
 using namespace KCalCore;
 
 namespace mKCal
@@ -44,6 +46,7 @@ public:
     QDateTime moment(const Statement &row, int column);
 
     Connection &connection;
+    std::map<QByteArray, std::unique_ptr<Statement>> queries; ///< by their condition
     DateTimeReader dateTimes;
     ChildReader children;
     int faults = 0;
@@ -66,16 +69,14 @@ QDateTime ComponentReaderPrivate::moment(const Statement &row, int column)
 
 Incidence::Ptr ComponentReaderPrivate::create(const Statement &row)
 {
-    switch (row.integer(Type)) {
-    case ComponentType::Event:
+    const qint64 type = row.integer(Type);
+    if (type == ComponentType::Event)
         return Event::Ptr::create();
-    case ComponentType::Todo:
+    if (type == ComponentType::Todo)
         return Todo::Ptr::create();
-    case ComponentType::Journal:
+    if (type == ComponentType::Journal)
         return Journal::Ptr::create();
-    default:
-        return {};
-    }
+    return {};
 }
 
 void ComponentReaderPrivate::readTimes(const Statement &row, Incidence *incidence)
@@ -219,7 +220,10 @@ ComponentReader::~ComponentReader() = default;
 bool ComponentReader::read(const QByteArray &condition, const SqlValues &values, const Sink &sink)
 {
     static const QByteArray columns = "SELECT " + list(0, firstKey) + ", id FROM Components WHERE ";
-    Statement &row = d->connection.statement(columns + condition);
+    std::unique_ptr<Statement> &kept = d->queries[condition];
+    if (!kept)
+        kept = std::make_unique<Statement>(d->connection, columns + condition);
+    Statement &row = *kept;
     const int faultsBefore = faults();
     bool going = true;
     row.bindAll(values);

@@ -60,6 +60,9 @@ QString describe(const ComponentRow &row)
 
 void Inspection::problem(const QString &text)
 {
+    // One damaged page stops several queries with the same words.
+    if (m_report->problems.contains(text))
+        return;
     if (m_report->problems.size() < mostProblems)
         m_report->problems.append(text);
     else if (m_report->problems.size() == mostProblems)
@@ -87,7 +90,7 @@ int Inspection::count(const QByteArray &query)
     Statement statement(m_connection, "SELECT count(*) FROM " + query);
     if (!statement.next()) {
         noteFailure();
-        return 0;
+        return -1;
     }
     return statement.smallInteger(0);
 }

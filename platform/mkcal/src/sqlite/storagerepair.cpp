@@ -99,7 +99,8 @@ QVector<qint64> Rescue::findRows()
     if (scan("SELECT id FROM Components NOT INDEXED ORDER BY id", &rows))
         return rows;
     QVector<qint64> indexed;
-    scan("SELECT id FROM Components INDEXED BY ComponentsChange WHERE change >= 0", &indexed);
+    if (!scan("SELECT id FROM Components INDEXED BY ComponentsChange WHERE change >= 0", &indexed))
+        note(QStringLiteral("the table of incidences is torn: what else it held cannot be told"));
     m_indexed = QSet<qint64>(indexed.cbegin(), indexed.cend());
 
     const qint64 firstMissing = rows.isEmpty() ? 1 : rows.last() + 1;
