@@ -14,6 +14,7 @@ struct CheckReport {
     bool readable = false; ///< it is a calendar database of a version that we know
     bool intact = false; ///< SQLite's integrity check and ours found nothing
     int schemaVersion = 0;
+    // How many there are; -1 when damage keeps them from being counted.
     int notebooks = 0;
     int events = 0;
     int todos = 0;
