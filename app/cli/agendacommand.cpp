@@ -60,7 +60,9 @@ QPair<QDate, QDate> readRange(const QCommandLineParser &parser, const QTimeZone 
     if (!readDate(FromOption, &from)) {
         return {};
     }
-    QDate to = from.addDays(DefaultDays - 1);
+    // The last day that can be written as a date.
+    const QDate lastDay(9999, 12, 31);
+    QDate to = qMin(from.addDays(DefaultDays - 1), lastDay);
     if (parser.isSet(ToOption) && parser.isSet(DaysOption)) {
         console.message(QStringLiteral("--to and --days exclude each other"));
         return {};
@@ -74,7 +76,7 @@ QPair<QDate, QDate> readRange(const QCommandLineParser &parser, const QTimeZone 
                                 .arg(MaxDays));
             return {};
         }
-        to = from.addDays(days - 1);
+        to = qMin(from.addDays(days - 1), lastDay);
     }
     if (!readDate(ToOption, &to)) {
         return {};

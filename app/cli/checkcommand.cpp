@@ -25,7 +25,8 @@ void declare(QCommandLineParser &parser)
 void print(const mKCal::CheckReport &report, QTextStream &out)
 {
     const auto line = [&out](const char *name, int count) {
-        out << QString::fromLatin1(name).leftJustified(22) << count << '\n';
+        out << QString::fromLatin1(name).leftJustified(22)
+            << (count < 0 ? QStringLiteral("unknown") : QString::number(count)) << '\n';
     };
     line("format version", report.schemaVersion);
     line("notebooks", report.notebooks);
@@ -37,17 +38,32 @@ void print(const mKCal::CheckReport &report, QTextStream &out)
     line("planned reminders", report.reminders);
 }
 
-ExitCode run(const QCommandLineParser &parser, Console &console)
+ExitCode check(const QString &fileName, Console &console)
 {
-    const QString fileName = mKCal::SqliteStorage::defaultFile();
-    if (!QFileInfo::exists(fileName)) {
-        console.message(QStringLiteral("there is no database '%1'").arg(fileName));
+    constexpr int MostProblems = 20;
+    const mKCal::CheckReport report = mKCal::checkDatabase(fileName);
+    for (const QString &problem : report.problems.mid(0, MostProblems)) {
+        console.message(problem);
+    }
+    if (report.problems.size() > MostProblems) {
+        console.message(
+            QStringLiteral("and %1 problems more").arg(report.problems.size() - MostProblems));
+    }
+    if (!report.error.isEmpty()) {
+        console.message(report.error);
         return Failed;
     }
-    const bool repairs = parser.isSet(RepairOption);
-    const mKCal::CheckReport report = repairs
-        ? mKCal::repairDatabase(fileName, parser.value(RepairOption))
-        : mKCal::checkDatabase(fileName);
+    print(report, console.out());
+    console.out() << (report.intact ? "The database is in order.\n"
+                                    : "The database is damaged: 'daskel check --repair FILE' "
+                                      "saves what can be saved into a new file.\n");
+    return report.intact ? Done : Failed;
+}
+
+/// Names every loss: whoever repairs wants to know what to enter again.
+ExitCode repair(const QString &fileName, const QString &target, Console &console)
+{
+    const mKCal::CheckReport report = mKCal::repairDatabase(fileName, target);
     for (const QString &problem : report.problems) {
         console.message(problem);
     }
@@ -56,15 +72,24 @@ ExitCode run(const QCommandLineParser &parser, Console &console)
         return Failed;
     }
     print(report, console.out());
-    if (repairs) {
-        console.out() << "written to " << parser.value(RepairOption) << '\n';
-        return report.problems.isEmpty() ? Done : DoneWithSkipped;
+    console.out() << "Written to " << target << ".\n";
+    return report.problems.isEmpty() ? Done : DoneWithSkipped;
+}
+
+ExitCode run(const QCommandLineParser &parser, Console &console)
+{
+    const QString target = parser.value(RepairOption);
+    if (parser.isSet(RepairOption) && target.isEmpty()) {
+        console.message(QStringLiteral("--repair needs the name of a new file"));
+        return WrongUsage;
     }
-    console.out() << (report.intact ? "The database is in order."
-                                    : "The database is damaged: 'daskel check --repair FILE' "
-                                      "saves what can be saved into a new file.")
-                  << '\n';
-    return report.intact ? Done : Failed;
+    const QFileInfo database(mKCal::SqliteStorage::defaultFile());
+    if (!database.isFile()) {
+        console.message(QStringLiteral("there is no database file '%1'").arg(database.filePath()));
+        return Failed;
+    }
+    return parser.isSet(RepairOption) ? repair(database.filePath(), target, console)
+                                      : check(database.filePath(), console);
 }
 } // namespace
 

@@ -12,11 +12,15 @@
 
 namespace
 {
-/// Why the database could not be opened; a folder that is none is told more plainly than the
-/// storage can.
+/// Why the database could not be opened; what is no file or no folder is told more
+/// plainly than the storage can.
 QString openError(const DbInstance &db)
 {
-    const QFileInfo folder(QFileInfo(db.databaseFileName()).absolutePath());
+    const QFileInfo file(db.databaseFileName());
+    if (file.isDir()) {
+        return QStringLiteral("cannot open the calendar: '%1' is a folder").arg(file.filePath());
+    }
+    const QFileInfo folder(file.absolutePath());
     if (folder.isDir()) {
         return QStringLiteral("cannot open the calendar: %1").arg(db.storage()->errorMessage());
     }
