@@ -17,15 +17,13 @@ ChangeWatcher::ChangeWatcher()
     m_recheck.setSingleShot(true);
     m_recheck.setInterval(recheckMilliseconds);
     connect(&m_recheck, &QTimer::timeout, this, &ChangeWatcher::touched);
+    connect(this, &ChangeWatcher::lookRequested, this, &ChangeWatcher::touched,
+            Qt::QueuedConnection);
+    connect(this, &ChangeWatcher::watchRequested, this, &ChangeWatcher::begin,
+            Qt::QueuedConnection);
 }
 
 ChangeWatcher::~ChangeWatcher() = default;
-
-void ChangeWatcher::watch(const QStringList &fileNames)
-{
-    QMetaObject::invokeMethod(
-        this, [this, fileNames] { begin(fileNames); }, Qt::QueuedConnection);
-}
 
 void ChangeWatcher::stop()
 {

@@ -25,12 +25,18 @@ public:
     ~ChangeWatcher() override;
 
     /// Watches these files from the next round of the event loop on. May be called on any thread.
-    void watch(const QStringList &fileNames);
+    void watch(const QStringList &fileNames) { Q_EMIT watchRequested(fileNames); }
     void stop();
+    /// Lets touched() come in the next round of the event loop. May be called on any thread.
+    void requestLook() { Q_EMIT lookRequested(); }
 
 Q_SIGNALS:
     /// Look now; comes also for changes of one's own.
     void touched();
+
+    // From the calling thread to the watcher's.
+    void lookRequested();
+    void watchRequested(const QStringList &fileNames);
 
 private:
     void begin(const QStringList &fileNames);

@@ -137,7 +137,7 @@ bool SqliteStoragePrivate::catchUp()
         return false;
     seenChange = mark.counter;
     foreignNoticeDue = true;
-    queueLook();
+    watcher.requestLook();
     return true;
 }
 
@@ -164,12 +164,6 @@ void SqliteStoragePrivate::lookForForeignChanges()
 void SqliteStoragePrivate::notify(const QString &info)
 {
     q->notifyModified(info);
-}
-
-void SqliteStoragePrivate::queueLook()
-{
-    QMetaObject::invokeMethod(
-        &watcher, [this] { lookForForeignChanges(); }, Qt::QueuedConnection);
 }
 
 StorageCall::StorageCall(SqliteStoragePrivate &storage) : m_storage(storage), m_lock(storage.mutex)
@@ -199,7 +193,7 @@ void StorageCall::release()
     --m_storage.callDepth;
     m_lock.unlock();
     if (m_storage.lookDue.exchange(false))
-        m_storage.queueLook();
+        m_storage.watcher.requestLook();
 }
 
 SqliteStorage::SqliteStorage(const ExtendedCalendar::Ptr &calendar, const QString &databaseName)
@@ -297,6 +291,6 @@ void SqliteStorage::holdNotices()
 void SqliteStorage::releaseNotices()
 {
     if (--d->noticeHolds == 0 && d->lookDue.exchange(false))
-        d->queueLook();
+        d->watcher.requestLook();
 }
 } // namespace mKCal

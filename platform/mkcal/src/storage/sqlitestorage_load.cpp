@@ -184,7 +184,7 @@ bool SqliteStorage::loadFutureIncidences(int limit, KDateTime *last)
                                            return true;
                                        // Floating ones are ordered by their wall clock, up to a day
                                        // away from the moment.
-                                       if (found >= limit && start > lastStart + MsecsPerDay)
+                                       if (found >= limit && start > lastStart + msecsPerDay)
                                            return false;
                                        lastStart =
                                            found++ < limit ? std::max(lastStart, start) : lastStart;

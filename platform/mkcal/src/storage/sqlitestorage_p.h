@@ -58,7 +58,6 @@ public:
     bool catchUp();
     /// Looks, unless a load runs elsewhere or notices are held, and notifies what was found.
     void lookForForeignChanges();
-    void queueLook();
     /// Without the lock held.
     void notify(const QString &info);
 
