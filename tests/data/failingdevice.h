@@ -8,31 +8,42 @@
 #include <sqlite3.h>
 #include <sys/types.h>
 
-/// While it lives, every write of SQLite in this process meets a broken disk (SQLITE_IOERR, 10).
+/// While it lives, SQLite's writes (or reads) in this process meet a disk that answers with an
+/// error: EIO for a broken one, ENOSPC for a full one.
 class FailingDevice
 {
 public:
-    FailingDevice() : m_vfs(sqlite3_vfs_find(nullptr))
+    enum Direction { Writing, Reading };
+
+    explicit FailingDevice(int error = EIO, Direction direction = Writing)
+        : m_vfs(sqlite3_vfs_find(nullptr)), m_direction(direction)
     {
-        for (const char *call : {"pwrite", "pwrite64"})
-            m_vfs->xSetSystemCall(m_vfs, call, reinterpret_cast<sqlite3_syscall_ptr>(&fail));
+        errorNumber() = error;
+        replace(reinterpret_cast<sqlite3_syscall_ptr>(&fail));
     }
-    ~FailingDevice()
-    {
-        for (const char *call : {"pwrite", "pwrite64"})
-            m_vfs->xSetSystemCall(m_vfs, call, nullptr);
-    }
+    ~FailingDevice() { replace(nullptr); }
     FailingDevice(const FailingDevice &) = delete;
     FailingDevice &operator=(const FailingDevice &) = delete;
 
 private:
+    static int &errorNumber()
+    {
+        static int number = EIO;
+        return number;
+    }
     static ssize_t fail(int, const void *, size_t, off_t)
     {
-        errno = EIO;
+        errno = errorNumber();
         return -1;
+    }
+    void replace(sqlite3_syscall_ptr call)
+    {
+        m_vfs->xSetSystemCall(m_vfs, m_direction == Writing ? "pwrite" : "pread", call);
+        m_vfs->xSetSystemCall(m_vfs, m_direction == Writing ? "pwrite64" : "pread64", call);
     }
 
     sqlite3_vfs *const m_vfs;
+    const Direction m_direction;
 };
 
 #endif

@@ -12,7 +12,8 @@ daskel_add_test(tst_storagethreads LABELS threaded LINK mkcal SQLite::SQLite3)
 # A second process of the calendar, which tests start and command.
 add_executable(storageprocess storageprocess.cpp)
 target_link_libraries(storageprocess PRIVATE mkcal Qt5::Test SQLite::SQLite3 daskel_options)
-daskel_add_test(tst_storageprocesses LINK mkcal SQLite::SQLite3)
-target_compile_definitions(tst_storageprocesses
-    PRIVATE STORAGE_PROCESS="$<TARGET_FILE:storageprocess>")
-add_dependencies(tst_storageprocesses storageprocess)
+foreach(test tst_storagecrashes tst_storageprocesses)
+    daskel_add_test(${test} LINK mkcal SQLite::SQLite3)
+    target_compile_definitions(${test} PRIVATE STORAGE_PROCESS="$<TARGET_FILE:storageprocess>")
+    add_dependencies(${test} storageprocess)
+endforeach()

@@ -6,6 +6,7 @@
 //
 //     add event|todo|journal UID    edit UID SUMMARY...    delete UID    save    summary UID
 //     uids    modified (how many notices came)    quit
+//     burst NUMBER PREFIX (saves so many events one by one, and answers each with its UID)
 //
 // Notices of foreign changes come from its event loop, as in any application.
 
@@ -36,6 +37,8 @@ public:
             return QString::number(m_opened.notices.modified);
         if (command == "add")
             return add(first, rest);
+        if (command == "burst")
+            return burst(first.toInt(), rest);
         m_opened.storage->load(first);
         const auto incidence = m_opened.incidence(first);
         if (!incidence)
@@ -63,6 +66,19 @@ private:
         else
             incidence = Make::journal(uid, start);
         return m_opened.calendar->addIncidence(incidence) ? "ok" : "refused";
+    }
+
+    /// What is printed is stored: it is said only after the save.
+    QString burst(int count, const QString &prefix)
+    {
+        for (int number = 0; number < count; ++number) {
+            const QString uid = prefix + QString::number(number);
+            add(QStringLiteral("event"), uid);
+            if (!m_opened.storage->save())
+                return m_opened.storage->errorMessage();
+            QTextStream(stdout) << uid << '\n';
+        }
+        return "done";
     }
 
     OpenStorage &m_opened;
