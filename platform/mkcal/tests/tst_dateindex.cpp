@@ -16,7 +16,7 @@ using mKCal::TimeSpan;
 
 namespace
 {
-constexpr Msecs Hour = 3600000;
+constexpr Msecs hour = 3600000;
 
 DateIndex::Entry entry(const QString &uid, Msecs start, Msecs end)
 {
@@ -57,15 +57,15 @@ void tst_dateindex::overlap_data()
     QTest::addColumn<bool>("isFound");
 
     // Asked for is the time from hour 100 to hour 110.
-    QTest::newRow("within") << 101 * Hour << 102 * Hour << true;
-    QTest::newRow("ends where it begins") << 90 * Hour << 100 * Hour << false;
-    QTest::newRow("reaches in") << 90 * Hour << 100 * Hour + 1 << true;
-    QTest::newRow("begins where it ends") << 110 * Hour << 120 * Hour << false;
-    QTest::newRow("moment at its begin") << 100 * Hour << 100 * Hour << true;
-    QTest::newRow("moment at its end") << 110 * Hour << 110 * Hour << false;
-    QTest::newRow("just two days") << 52 * Hour + 1 << 100 * Hour + 1 << true;
-    QTest::newRow("longer, from before") << -900 * Hour << 101 * Hour << true;
-    QTest::newRow("longer, over before") << -900 * Hour << 100 * Hour << false;
+    QTest::newRow("within") << 101 * hour << 102 * hour << true;
+    QTest::newRow("ends where it begins") << 90 * hour << 100 * hour << false;
+    QTest::newRow("reaches in") << 90 * hour << 100 * hour + 1 << true;
+    QTest::newRow("begins where it ends") << 110 * hour << 120 * hour << false;
+    QTest::newRow("moment at its begin") << 100 * hour << 100 * hour << true;
+    QTest::newRow("moment at its end") << 110 * hour << 110 * hour << false;
+    QTest::newRow("just two days") << 52 * hour + 1 << 100 * hour + 1 << true;
+    QTest::newRow("longer, from before") << -900 * hour << 101 * hour << true;
+    QTest::newRow("longer, over before") << -900 * hour << 100 * hour << false;
 }
 
 void tst_dateindex::overlap()
@@ -75,7 +75,7 @@ void tst_dateindex::overlap()
     DateIndex index;
     const DateIndex::Entry single = entry("a", start, end);
     index.insert(single);
-    QTEST(!found(index, 100 * Hour, 110 * Hour).isEmpty(), "isFound");
+    QTEST(!found(index, 100 * hour, 110 * hour).isEmpty(), "isFound");
 
     // The same for a series that is alive as long.
     DateIndex::Entry series = single;
@@ -83,21 +83,21 @@ void tst_dateindex::overlap()
     series.first.end = start;
     index.insert(series);
     QCOMPARE(index.size(), 1);
-    QTEST(!found(index, 100 * Hour, 110 * Hour).isEmpty(), "isFound");
+    QTEST(!found(index, 100 * hour, 110 * hour).isEmpty(), "isFound");
     index.remove(series.incidence.data());
-    QVERIFY(found(index, 100 * Hour, 110 * Hour).isEmpty());
+    QVERIFY(found(index, 100 * hour, 110 * hour).isEmpty());
 }
 
 void tst_dateindex::wallAndMoment()
 {
     DateIndex index;
-    DateIndex::Entry wall = entry("wall", 100 * Hour, 124 * Hour);
+    DateIndex::Entry wall = entry("wall", 100 * hour, 124 * hour);
     wall.isWallBound = true;
     index.insert(wall);
-    index.insert(entry("moment", 100 * Hour, 124 * Hour));
+    index.insert(entry("moment", 100 * hour, 124 * hour));
     QStringList uids;
     // The days of a zone ten hours to the west.
-    index.visit({{134 * Hour, 158 * Hour}, {124 * Hour - 1, 148 * Hour}},
+    index.visit({{134 * hour, 158 * hour}, {124 * hour - 1, 148 * hour}},
                 [&uids](const DateIndex::Entry &entry) { uids.append(entry.uid); });
     QCOMPARE(uids, QStringList("wall"));
 }
@@ -121,24 +121,24 @@ void tst_dateindex::sameAsSearchingAll()
     DateIndex index;
     QVector<DateIndex::Entry> entries;
     for (int i = 0; i < 400; ++i) {
-        const Msecs start = random.bounded(1000) * Hour;
+        const Msecs start = random.bounded(1000) * hour;
         DateIndex::Entry made = entry(QString::number(random.bounded(50)), start,
-                                      start + random.bounded(i % 3 == 0 ? 200 : 20) * Hour);
+                                      start + random.bounded(i % 3 == 0 ? 200 : 20) * hour);
         made.recurrenceId = i;
         made.recurs = i % 5 == 0;
-        made.until = i % 10 == 0 ? DateIndex::Endless : made.first.end;
+        made.until = i % 10 == 0 ? DateIndex::endless : made.first.end;
         entries.append(made);
         index.insert(made);
     }
     for (int i = 0; i < 100; ++i) {
-        entries[i].first = {i * Hour, (i + 1) * Hour};
+        entries[i].first = {i * hour, (i + 1) * hour};
         entries[i].until = entries[i].first.end;
         index.insert(entries[i]);
         index.remove(entries.takeLast().incidence.data());
     }
     std::sort(entries.begin(), entries.end());
-    for (Msecs from = -50 * Hour; from < 1100 * Hour; from += 31 * Hour) {
-        const Msecs to = from + 24 * Hour;
+    for (Msecs from = -50 * hour; from < 1100 * hour; from += 31 * hour) {
+        const Msecs to = from + 24 * hour;
         QStringList expected;
         for (const DateIndex::Entry &each : qAsConst(entries)) {
             if (TimeSpan{each.first.start, each.until}.overlaps(from, to)) {

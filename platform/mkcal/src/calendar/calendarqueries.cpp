@@ -11,7 +11,7 @@ using namespace mKCal;
 namespace
 {
 // Beyond every date, and still far enough from the ends of the number to add to.
-constexpr Msecs Always = std::numeric_limits<Msecs>::max() / 4;
+constexpr Msecs always = std::numeric_limits<Msecs>::max() / 4;
 
 template <typename Type> using ListOf = QVector<QSharedPointer<Type>>;
 
@@ -83,8 +83,8 @@ KCalCore::Event::List sorted(KCalCore::Event::List events, KCalCore::EventSortFi
 
 TimeSpan daysOf(const QDate &start, const QDate &end, const ZoneClock &clock)
 {
-    return {start.isValid() ? clock.dayStart(start) : -Always,
-            end.isValid() ? clock.dayStart(end.addDays(1)) : Always};
+    return {start.isValid() ? clock.dayStart(start) : -always,
+            end.isValid() ? clock.dayStart(end.addDays(1)) : always};
 }
 
 /// Accepts what does not reach beyond the range when @p inclusive.

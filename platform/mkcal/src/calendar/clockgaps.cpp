@@ -45,9 +45,9 @@ QVector<ClockGaps::Gap> ClockGaps::find(const QTimeZone &zone)
 bool ClockGaps::skip(const QTime &time, Msecs from, Msecs to) const
 {
     const auto isBefore = [](const Gap &gap, Msecs moment) { return gap.moment < moment; };
-    auto gap = std::lower_bound(m_gaps.cbegin(), m_gaps.cend(), from - MsecsPerDay, isBefore);
+    auto gap = std::lower_bound(m_gaps.cbegin(), m_gaps.cend(), from - msecsPerDay, isBefore);
     const qint64 secondOfDay = time.msecsSinceStartOfDay() / 1000;
-    for (; gap != m_gaps.cend() && gap->moment <= to + MsecsPerDay; ++gap) {
+    for (; gap != m_gaps.cend() && gap->moment <= to + msecsPerDay; ++gap) {
         const qint64 intoDay = gap->begin % 86400;
         const qint64 until = secondOfDay - intoDay + (secondOfDay < intoDay ? 86400 : 0);
         if (until < gap->end - gap->begin) {

@@ -7,7 +7,7 @@ namespace mKCal
 {
 namespace
 {
-constexpr Msecs LongestShort = 2 * MsecsPerDay;
+constexpr Msecs longestShort = 2 * msecsPerDay;
 
 DateIndex::Entry startingAt(Msecs start)
 {
@@ -37,7 +37,7 @@ DateIndex::Kind DateIndex::kindOf(const Entry &entry)
     if (entry.recurs) {
         return Recurring;
     }
-    return entry.first.end - entry.first.start > LongestShort ? Long : Short;
+    return entry.first.end - entry.first.start > longestShort ? Long : Short;
 }
 
 void DateIndex::insert(const Entry &entry)
@@ -119,7 +119,7 @@ void DateIndex::visit(const Range &range, const Visitor &visit) const
         const TimeSpan &days = entry.isWallBound ? range.wall : range.moments;
         return TimeSpan{entry.first.start, entry.until}.overlaps(days.start, days.end);
     };
-    merge({section(Short, m_entries[Short].lower_bound(startingAt(from - LongestShort))),
+    merge({section(Short, m_entries[Short].lower_bound(startingAt(from - longestShort))),
            section(Long, m_entries[Long].cbegin()),
            section(Recurring, m_entries[Recurring].cbegin())},
           overlaps, visit);

@@ -24,11 +24,11 @@ namespace mKCal
 class DateIndex
 {
 public:
-    static constexpr Msecs Endless = std::numeric_limits<Msecs>::max();
+    static constexpr Msecs endless = std::numeric_limits<Msecs>::max();
 
     struct Entry {
         TimeSpan first; ///< the first occurrence
-        Msecs until = 0; ///< the end of the last occurrence, Endless for none
+        Msecs until = 0; ///< the end of the last occurrence, endless for none
         bool isDated = true; ///< false: in no range, handed out after all others
         bool isWallBound = false; ///< on the same date in every zone
         bool recurs = false;

@@ -142,7 +142,7 @@ bool SeriesOccurrences::find(const QDateTime &start, Occurrence *found,
         return true;
     }
     const qint64 key = m_scale.keyOf(start);
-    SeriesWalk walk(*m_series, m_scale, moment - MsecsPerDay, moment + MsecsPerDay);
+    SeriesWalk walk(*m_series, m_scale, moment - msecsPerDay, moment + msecsPerDay);
     walk.goAfter(key - 1);
     if (m_replaced.contains(key) || !walk.next() || walk.key() != key) {
         return false;

@@ -13,9 +13,9 @@ namespace mKCal
 {
 namespace
 {
-constexpr int MostReminders = 2000;
+constexpr int mostReminders = 2000;
 // Offsets in days keep the wall clock: a clock change makes them longer or shorter.
-constexpr Msecs LargestClockChange = 3 * 3600 * 1000;
+constexpr Msecs largestClockChange = 3 * 3600 * 1000;
 
 bool isEnabled(const KCalCore::Alarm::Ptr &alarm)
 {
@@ -60,7 +60,7 @@ TimeSpan reachOf(const KCalCore::Alarm::List &alarms, Msecs lead, Msecs from, Ms
     TimeSpan reach{from, to};
     for (const KCalCore::Alarm::Ptr &alarm : alarms) {
         const KCalCore::Duration offset = offsetOf(*alarm);
-        const Msecs slack = 1000 + (offset.isDaily() ? LargestClockChange : 0);
+        const Msecs slack = 1000 + (offset.isDaily() ? largestClockChange : 0);
         const Msecs distance = offset.asSeconds() * 1000LL;
         reach.start = qMin(reach.start, from - distance - slack);
         reach.end = qMax(reach.end, to - distance + lead + slack);
@@ -179,7 +179,7 @@ void Planner::addSeries(const KCalCore::Incidence::Ptr &series,
         if (!isDone && everRings(*occurrence.incidence)) {
             addRelative(occurrence, recurrenceId);
         }
-        return m_reminders.size() < MostReminders ? SeriesOccurrences::Continue
+        return m_reminders.size() < mostReminders ? SeriesOccurrences::Continue
                                                   : SeriesOccurrences::Stop;
     };
     SeriesOccurrences(series, exceptions, m_clock).visit(reach.start, reach.end, plan);

@@ -57,7 +57,7 @@ QDateTime freeStart(const KCalCore::Incidence &series, const KCalCore::Incidence
         replaced.insert(scale.keyOf(exception->recurrenceId()));
     }
     const Msecs from = (key - 86400) * 1000;
-    SeriesWalk walk(series, scale, from, from + 3650 * MsecsPerDay);
+    SeriesWalk walk(series, scale, from, from + 3650 * msecsPerDay);
     walk.goAfter(key - 1);
     while (walk.next()) {
         if (!replaced.contains(walk.key())) {
@@ -92,7 +92,7 @@ ExtendedCalendarPrivate::detachException(const KCalCore::Incidence::Ptr &series,
         return {};
     }
     const QString notebook = q->notebook(series);
-    const auto detached = loneCopy(*exception);
+    auto detached = loneCopy(*exception);
     KCalCore::Incidence::Ptr carried;
     if (exception->thisAndFuture()) {
         const SeriesScale scale(*series, clock);
@@ -129,7 +129,7 @@ ExtendedCalendar::dissociateSingleOccurrence(const KCalCore::Incidence::Ptr &inc
     if (!occurrences.find(start, &found, &recurrenceId)) {
         return {};
     }
-    const auto detached = loneCopy(*found.incidence);
+    auto detached = loneCopy(*found.incidence);
     moveTo(detached.data(), found.span, d->clock);
     exclude(incidence.data(), recurrenceId);
     addIncidence(detached, notebook(incidence));
@@ -156,7 +156,7 @@ KCalCore::Incidence::Ptr ExtendedCalendar::splitSeries(const KCalCore::Incidence
     const qint64 key = scale.keyOfStart(first);
     const QDateTime earliest = freeStart(*incidence, {}, scale, scale.keyOfStart(scale.first) - 1);
     const SeriesCut cut(incidence, first, clock);
-    const auto later = scale.keyOfStart(earliest) < key ? cut.laterPart() : nullptr;
+    auto later = scale.keyOfStart(earliest) < key ? cut.laterPart() : nullptr;
     if (!later) {
         return {};
     }

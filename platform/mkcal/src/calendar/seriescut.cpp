@@ -17,7 +17,7 @@ using KCalCore::Recurrence;
 using KCalCore::RecurrenceRule;
 
 /// How many occurrences are compared before a cut is believed to be right.
-constexpr int Compared = 100;
+constexpr int comparedStarts = 100;
 
 /// A moment in the time spec of @p model; clock time and all-day dates are read in @p clock.
 QDateTime momentIn(const QDateTime &model, Msecs moment, bool wallBound, const ZoneClock &clock)
@@ -234,7 +234,7 @@ KCalCore::Incidence::Ptr SeriesCut::laterPart() const
 bool SeriesCut::isSameFromCutOn(const KCalCore::Incidence &later) const
 {
     const Msecs from = m_first.toMSecsSinceEpoch();
-    const Msecs to = from + 3650 * MsecsPerDay;
+    const Msecs to = from + 3650 * msecsPerDay;
     const SeriesScale scale(*m_series, m_clock);
     SeriesWalk before(*m_series, scale, from, to);
     before.goAfter(scale.keyOfStart(m_first) - 1);
@@ -243,7 +243,7 @@ bool SeriesCut::isSameFromCutOn(const KCalCore::Incidence &later) const
     }
     SeriesWalk after(later, SeriesScale(later, m_clock), from, to);
     after.goAfter(scale.keyOfStart(m_first) - 1);
-    for (int i = 0; i < Compared; ++i) {
+    for (int i = 0; i < comparedStarts; ++i) {
         const bool goesOn = before.next();
         if (goesOn != after.next() || (goesOn && before.key() != after.key())) {
             return false;

@@ -18,7 +18,7 @@ using KCalCore::RecurrenceRule;
 
 // Beyond this many occurrences KCalendarCore gives up counting: it then goes on for ever or stops
 // early, depending on the rule.
-constexpr int MostCounted = 9000;
+constexpr int mostCounted = 9000;
 
 QDate addPeriods(const QDate &date, RecurrenceRule::PeriodType period, qint64 count)
 {
@@ -101,7 +101,7 @@ bool namesImpossibleDates(const RecurrenceRule &rule)
 
 bool isUnbearable(const RecurrenceRule *rule)
 {
-    return rule->duration() > MostCounted || namesImpossibleDates(*rule);
+    return rule->duration() > mostCounted || namesImpossibleDates(*rule);
 }
 
 bool isWithinDay(const RecurrenceRule *rule)
@@ -128,10 +128,10 @@ template <typename Predicate> bool anyRule(const Recurrence &recurrence, const P
 void makeBearable(Recurrence *recurrence)
 {
     const auto bear = [](RecurrenceRule *rule) {
-        const QDateTime end = rule->duration() > MostCounted ? boundOfCount(*rule) : QDateTime();
+        const QDateTime end = rule->duration() > mostCounted ? boundOfCount(*rule) : QDateTime();
         if (end.isValid()) {
             rule->setEndDt(end);
-        } else if (rule->duration() > MostCounted) {
+        } else if (rule->duration() > mostCounted) {
             rule->setDuration(-1);
         }
     };
@@ -195,7 +195,7 @@ QDateTime lastOf(const RecurrenceRule &rule)
         return rule.duration() == 0 ? rule.endDt() : QDateTime();
     }
     const QDateTime bound = boundOfCount(rule);
-    return bound.isValid() || rule.duration() > MostCounted ? bound : rule.endDt();
+    return bound.isValid() || rule.duration() > mostCounted ? bound : rule.endDt();
 }
 } // namespace
 
@@ -216,7 +216,7 @@ TimeSpan lifeOfSeries(const KCalCore::Incidence &series,
     for (const RecurrenceRule *rule : rules) {
         const QDateTime last = lastOf(*rule);
         if (!last.isValid()) {
-            life.end = DateIndex::Endless;
+            life.end = DateIndex::endless;
             break;
         }
         include(last > first ? last : first);
@@ -238,7 +238,7 @@ TimeSpan lifeOfSeries(const KCalCore::Incidence &series,
             const TimeSpan moved = spanOf(*exception, clock);
             const Msecs shift = moved.start - exception->recurrenceId().toMSecsSinceEpoch();
             life.start = qMin(life.start, life.start + shift);
-            if (life.end != DateIndex::Endless) {
+            if (life.end != DateIndex::endless) {
                 life.end += qMax<Msecs>(0, shift) + (moved.end - moved.start);
             }
         }

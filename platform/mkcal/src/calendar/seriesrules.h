@@ -12,7 +12,7 @@
 
 namespace mKCal
 {
-/// From the first start of a series to the end of its last occurrence (DateIndex::Endless for
+/// From the first start of a series to the end of its last occurrence (DateIndex::endless for
 /// none), as its rules and RDATEs say; a THISANDFUTURE exception among @p exceptions moves it. The
 /// end may be later than that of the last occurrence by less than one step of a rule: counting a
 /// rule out can cost milliseconds.

@@ -19,7 +19,7 @@ int offsetBefore(const QDateTime &asUtc, const QTimeZone &zone)
 
 QDateTime atWallClock(const QDate &date, const QTime &time, const QTimeZone &zone)
 {
-    const QDateTime shown(date, time, zone);
+    QDateTime shown(date, time, zone);
     if (shown.isValid() || !date.isValid()) {
         return shown;
     }

@@ -12,7 +12,7 @@ namespace mKCal
 /// Milliseconds since 1970-01-01T00:00:00Z.
 using Msecs = qint64;
 
-constexpr qint64 MsecsPerDay = 86400000;
+constexpr qint64 msecsPerDay = 86400000;
 
 /// The moment that a wall clock in @p zone shows that date and time. What the clock skips when it
 /// is put forward is read with the offset from before (RFC 5545, 3.3.5), so that no appointment is

@@ -103,11 +103,7 @@ bool SqliteStorage::loadRecurringIncidences()
         return call.ended(false);
     if (d->loaded.hasAllRecurring())
         return call.ended(true);
-    // The series of an exception may have ceased to recur.
-    if (!d->loader.loadRows(d->tables->reader, "span = 2")
-        || !d->loader.loadRows(d->tables->reader,
-                               "+span < 2 AND uid IN (SELECT uid FROM Components"
-                               " WHERE state = 0 AND span = 2 AND recId <> '')"))
+    if (!d->loader.loadRecurring(d->tables->reader))
         return call.ended(false);
     d->loaded.addAllRecurring();
     return call.ended(true);
