@@ -34,8 +34,8 @@ void print(const KCalCore::Incidence::Ptr &incidence, const QTimeZone &zone, QTe
     const auto todo = incidence.dynamicCast<KCalCore::Todo>();
     const QDateTime time = todo && todo->hasDueDate() ? todo->dtDue() : incidence->dtStart();
     out << shortText(time, incidence->allDay(), zone).leftJustified(TimeWidth)
-        << typeName(incidence).leftJustified(TypeWidth) << titleText(incidence->summary()) << "  · "
-        << printable(incidence->uid()) << '\n';
+        << typeName(incidence).leftJustified(TypeWidth) << titleText(incidence->summary())
+        << QStringLiteral("  · ") << printable(incidence->uid()) << '\n';
 }
 
 ExitCode run(const QCommandLineParser &parser, Console &console)

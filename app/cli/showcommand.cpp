@@ -10,10 +10,12 @@
 #include <QJsonArray>
 
 #include <algorithm>
+#include <cstdlib>
 
 namespace
 {
 const QString JsonOption = QStringLiteral("json");
+const QString NotebookKey = QStringLiteral("notebook");
 
 void declare(QCommandLineParser &parser)
 {
@@ -22,9 +24,59 @@ void declare(QCommandLineParser &parser)
                                  QStringLiteral("UID"));
 }
 
+/// "1 h 30 min": what an alarm keeps from the time that it belongs to.
+QString durationText(int seconds)
+{
+    struct Unit {
+        int seconds;
+        const char *name;
+    };
+    static constexpr Unit Units[] = {{86400, " d"}, {3600, " h"}, {60, " min"}, {1, " s"}};
+    QStringList parts;
+    int left = std::abs(seconds);
+    for (const Unit &unit : Units) {
+        if (left >= unit.seconds) {
+            parts.append(QString::number(left / unit.seconds) + QLatin1String(unit.name));
+            left %= unit.seconds;
+        }
+    }
+    return parts.join(QLatin1Char(' '));
+}
+
+QString alarmText(const QJsonObject &alarm)
+{
+    const QString off =
+        alarm.value(QStringLiteral("enabled")).toBool() ? QString() : QStringLiteral(" (off)");
+    if (alarm.contains(QStringLiteral("time"))) {
+        return QStringLiteral("at ") + alarm.value(QStringLiteral("time")).toString() + off;
+    }
+    const bool countsFromEnd = alarm.contains(QStringLiteral("secondsFromEnd"));
+    const QString whose = countsFromEnd ? QStringLiteral("the end") : QStringLiteral("the start");
+    const int seconds = alarm
+                            .value(countsFromEnd ? QStringLiteral("secondsFromEnd")
+                                                 : QStringLiteral("secondsFromStart"))
+                            .toInt();
+    if (seconds == 0) {
+        return QStringLiteral("at %1%2").arg(whose, off);
+    }
+    return QStringLiteral("%1 %2 %3%4")
+        .arg(durationText(seconds),
+             seconds < 0 ? QStringLiteral("before") : QStringLiteral("after"), whose, off);
+}
+
+QString attendeeText(const QJsonObject &attendee)
+{
+    const QString name = attendee.value(QStringLiteral("name")).toString();
+    const QString email = attendee.value(QStringLiteral("email")).toString();
+    return name.isEmpty() || email.isEmpty() ? name + email
+                                             : QStringLiteral("%1 <%2>").arg(name, email);
+}
+
+/// As people read it; empty for what says nothing.
 QString valueText(const QJsonValue &value)
 {
-    if (value.isArray()) {
+    switch (value.type()) {
+    case QJsonValue::Array: {
         QStringList texts;
         const QJsonArray array = value.toArray();
         for (const auto &element : array) {
@@ -32,18 +84,16 @@ QString valueText(const QJsonValue &value)
         }
         return texts.join(QStringLiteral("; "));
     }
-    if (value.isObject()) {
-        QStringList texts;
-        const QJsonObject object = value.toObject();
-        for (auto it = object.begin(); it != object.end(); ++it) {
-            texts.append(it.key() + QLatin1Char(' ') + valueText(it.value()));
-        }
-        return texts.join(QStringLiteral(", "));
-    }
-    if (value.isBool()) {
+    case QJsonValue::Object:
+        return value.toObject().contains(QStringLiteral("email")) ? attendeeText(value.toObject())
+                                                                  : alarmText(value.toObject());
+    case QJsonValue::Bool:
         return value.toBool() ? QStringLiteral("yes") : QStringLiteral("no");
+    case QJsonValue::Double:
+        return value.toInt() == 0 ? QString() : QString::number(value.toInt());
+    default:
+        return value.toString();
     }
-    return value.toVariant().toString();
 }
 
 void print(const QJsonObject &object, QTextStream &out)
@@ -123,7 +173,12 @@ ExitCode run(const QCommandLineParser &parser, Console &console)
     }
     for (int i = 0; i < array.size(); ++i) {
         console.out() << (i > 0 ? "\n" : "");
-        print(array.at(i).toObject(), console.out());
+        QJsonObject object = array.at(i).toObject();
+        const auto notebook = database.storage()->notebook(object.value(NotebookKey).toString());
+        if (notebook) {
+            object.insert(NotebookKey, notebook->name());
+        }
+        print(object, console.out());
     }
     return Done;
 }

@@ -44,7 +44,7 @@ CliResult CliRunner::runPlain(const QStringList &arguments, const QString &outFi
     if (!outFile.isEmpty()) {
         process.setStandardOutputFile(outFile);
     }
-    process.start(QStringLiteral(DASKEL_PROGRAM), arguments, QIODevice::ReadOnly);
+    process.start(program(), arguments, QIODevice::ReadOnly);
     const bool hasEnded = process.waitForFinished(60000);
     CliResult result;
     if (hasEnded && process.exitStatus() == QProcess::NormalExit) {
@@ -76,4 +76,9 @@ QByteArray CliRunner::read(const QString &fileName)
 QString CliRunner::fixture(const QString &name)
 {
     return QStringLiteral(DASKEL_CLI_FIXTURES "/") + name;
+}
+
+QString CliRunner::program()
+{
+    return QStringLiteral(DASKEL_PROGRAM);
 }

@@ -36,6 +36,7 @@ public:
     QString write(const QString &name, const QByteArray &content) const;
     static QByteArray read(const QString &fileName);
     static QString fixture(const QString &name);
+    static QString program();
 
     QProcessEnvironment environment;
 
