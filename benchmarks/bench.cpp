@@ -13,6 +13,7 @@
 #include <QTimeZone>
 
 #include <cstdlib>
+#include <ctime>
 
 using namespace mKCal;
 
@@ -108,7 +109,10 @@ Sample Bench::named(int count, const QString &folder) const
 QString Bench::scratchName(const QString &suffix) const
 {
     static int number = 0;
-    return m_folder.filePath(QStringLiteral("scratch-%1%2").arg(++number).arg(suffix));
+    const QString name =
+        m_folder.filePath(QStringLiteral("scratch-%1%2").arg(++number).arg(suffix));
+    QFile::remove(name);
+    return name;
 }
 
 OpenedStorage::OpenedStorage(const QString &databaseName)
@@ -116,6 +120,13 @@ OpenedStorage::OpenedStorage(const QString &databaseName)
       storage(new SqliteStorage(calendar, databaseName))
 {
     require(storage->open(), storage->errorMessage());
+}
+
+double processorTime()
+{
+    timespec time;
+    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
+    return double(time.tv_sec) * 1e6 + double(time.tv_nsec) / 1e3;
 }
 
 void require(bool condition, const QString &what)

@@ -241,8 +241,9 @@ private:
         } else {
             recurrence->setDuration(-1);
         }
-        if (percent(30)) {
-            recurrence->addExDateTime(recurrence->getNextDateTime(start));
+        const QDateTime second = recurrence->getNextDateTime(start);
+        if (percent(30) && second.isValid()) {
+            recurrence->addExDateTime(second);
         }
     }
 

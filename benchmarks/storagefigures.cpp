@@ -158,13 +158,13 @@ void measureSave(const Bench &bench)
         const auto ours = [&] {
             const auto &incidence = incidences.at(++step % incidences.size());
             incidence->setSummary(QStringLiteral("changed %1").arg(step), false);
-            return microseconds(
+            return microsecondsPassed(
                 [&] { require(opened.storage->save(), opened.storage->errorMessage()); });
         };
         const auto floor = [&] {
             const qint64 id = raw.idOf(incidences.at(step % incidences.size())->uid().toUtf8());
             const QByteArray summary = "changed " + QByteArray::number(step);
-            return microseconds([&] { raw.updateSummary(id, summary); });
+            return microsecondsPassed([&] { raw.updateSummary(id, summary); });
         };
         bench.add({name,
                    count,
