@@ -156,7 +156,8 @@ def check_fuzzers(report):
 def main():
     parser = argparse.ArgumentParser(prog="./test", description="Runs every test and check.")
     parser.add_argument("--all", action="store_true",
-                        help="lint every file, not only changed ones; run the fuzzers")
+                        help="lint every file, not only changed ones; run the fuzzers; import and "
+                             "export the calendars of other programs where they are there")
     arguments = parser.parse_args()
     os.chdir(ROOT)
 
@@ -172,6 +173,8 @@ def main():
     }
     if arguments.all:
         stages["fuzzers"] = lambda: check_fuzzers(report)
+        stages["calendars of other programs"] = lambda: report.run(
+            "import and export", "tools/check-corpus.sh", BUILD / "asan", env=SANITIZER_OPTIONS)
     for name, check in stages.items():
         with report.stage(name):
             check()
