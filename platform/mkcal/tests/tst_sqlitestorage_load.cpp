@@ -53,6 +53,7 @@ private Q_SLOTS:
     void zonesAndFloatingTimesAreInTheirDays();
     void exceptionsComeWithTheirSeries_data();
     void exceptionsComeWithTheirSeries();
+    void whatASeriesBecameComesWithItsExceptions();
     void unsavedDeletionIsNotUndoneByALoad();
     void unsavedChangeIsNotOverwrittenByALoad();
     void futureIncidencesInPages();
@@ -217,6 +218,15 @@ void TestStorageLoad::exceptionsComeWithTheirSeries()
     const auto reader = m_fixture->open();
     QVERIFY(load(*reader));
     QCOMPARE(reader->uids(), QStringList({"series", "series/20260304", "series/20260307"}));
+}
+
+void TestStorageLoad::whatASeriesBecameComesWithItsExceptions()
+{
+    QVERIFY(m_fixture->store({meeting(QStringLiteral("series"), at(2026, 3, 1, 9))}));
+    const auto reader = m_fixture->open();
+    QVERIFY(reader->storage->loadRecurringIncidences());
+    QCOMPARE(reader->uids(), QStringList({"oldSeries", "series", "series/20260304"}));
+    QVERIFY(!reader->incidence(QStringLiteral("series"))->recurs());
 }
 
 void TestStorageLoad::unsavedDeletionIsNotUndoneByALoad()

@@ -11,9 +11,11 @@ namespace mKCal
 {
 /// Writes many incidences straight into the database in one transaction, past the calendar in
 /// memory: for imports and synchronisation. Got from ExtendedStorage::bulkWriter(), owned by the
-/// caller, used on one thread; other saves of this process wait until it is gone.
+/// caller, used on the storage's thread, gone before the storage is.
 ///
-/// Nothing is stored until commit() succeeds; destroyed before that, all is rolled back.
+/// Nothing is stored until commit() succeeds; destroyed before that, all is rolled back. Meanwhile
+/// the storage refuses to save, and other processes wait for their turn: be quick. After a refusal
+/// of the database the writer is of no more use.
 class BulkWriter
 {
 public:
@@ -28,6 +30,7 @@ public:
     /// stays in it; a new one goes into @p notebookUid. False on a storage error (then the whole
     /// transaction is void) and for an unknown notebook.
     virtual bool write(const KCalCore::Incidence::Ptr &incidence, const QString &notebookUid) = 0;
+    /// Deletes it, a series with its exceptions, leaving tombstones. True when there was nothing.
     virtual bool remove(const QString &uid, const KDateTime &recurrenceId) = 0;
     /// Stores everything, brings the calendar in memory up to date for what was loaded there, and
     /// notifies the observers once. False when the database refused; nothing is stored then.

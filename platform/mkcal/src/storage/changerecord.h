@@ -39,7 +39,13 @@ public:
     {
         return m_written.contains(key) || m_deleted.contains(key);
     }
-    bool isDeleted(const IncidenceKey &key) const { return m_deleted.contains(key); }
+    /// Whether it, or the series that it is an exception of, is to be deleted.
+    bool isDeletedWithFamily(const KCalCore::Incidence &incidence) const
+    {
+        return !m_deleted.isEmpty()
+            && (m_deleted.contains(IncidenceKey::of(incidence))
+                || m_deleted.contains({incidence.uid(), QString()}));
+    }
 
     struct Written {
         KCalCore::Incidence::Ptr incidence;

@@ -12,6 +12,14 @@ KCalCore::Incidence::Ptr findInCalendar(const ExtendedCalendar &calendar, const 
     return calendar.incidence(key.uid, KDateTime::fromString(key.recId));
 }
 
+KCalCore::Incidence::Ptr findInCalendar(const ExtendedCalendar &calendar,
+                                        const KCalCore::Incidence &incidence)
+{
+    if (!incidence.hasRecurrenceId())
+        return calendar.incidence(incidence.uid(), KDateTime());
+    return findInCalendar(calendar, IncidenceKey::of(incidence));
+}
+
 IncidenceLoader::IncidenceLoader(const ExtendedCalendar::Ptr &calendar, ChangeRecord &changes,
                                  std::function<void()> learnNotebooks)
     : m_calendar(calendar), m_changes(changes), m_learnNotebooks(std::move(learnNotebooks))
@@ -34,6 +42,27 @@ bool IncidenceLoader::loadFamilies(ComponentReader &reader, const QByteArray &co
                     values);
 }
 
+bool IncidenceLoader::loadRecurring(ComponentReader &reader)
+{
+    countRead();
+    const ChangeRecord::Pause pause(m_changes);
+    QSet<QString> withExceptions;
+    const auto sink = [this, &withExceptions](const ComponentRow &row) {
+        if (row.incidence->hasRecurrenceId())
+            withExceptions.insert(row.incidence->uid());
+        take(row);
+        return true;
+    };
+    if (!reader.read("state = 0 AND span = 2", {}, sink))
+        return false;
+    // The series of an exception may have ceased to recur.
+    for (const QString &uid : qAsConst(withExceptions)) {
+        if (!m_calendar->incidence(uid, KDateTime()) && !loadRows(reader, "uid = ?", {uid}))
+            return false;
+    }
+    return true;
+}
+
 bool IncidenceLoader::loadMatching(ComponentReader &reader, const QByteArray &condition,
                                    const SqlValues &values)
 {
@@ -53,9 +82,8 @@ bool IncidenceLoader::loadRows(ComponentReader &reader, const QByteArray &condit
 
 void IncidenceLoader::take(const ComponentRow &row)
 {
-    const IncidenceKey key = IncidenceKey::of(*row.incidence);
-    if (m_changes.isDeleted(key) || m_changes.isDeleted({key.uid, QString()})
-        || findInCalendar(*m_calendar, key))
+    if (m_changes.isDeletedWithFamily(*row.incidence)
+        || findInCalendar(*m_calendar, *row.incidence))
         return;
     if (!m_calendar->hasValidNotebook(row.notebook))
         m_learnNotebooks();

@@ -15,6 +15,9 @@ namespace mKCal
 {
 /// The incidence of that key in @p calendar; null when it is not there.
 KCalCore::Incidence::Ptr findInCalendar(const ExtendedCalendar &calendar, const IncidenceKey &key);
+/// The one that stands for the same as @p incidence.
+KCalCore::Incidence::Ptr findInCalendar(const ExtendedCalendar &calendar,
+                                        const KCalCore::Incidence &incidence);
 
 /// Brings rows into the calendar that are not there yet. What is there stays, and so does what was
 /// deleted there without having been saved.
@@ -38,6 +41,8 @@ public:
     /// Both.
     bool loadMatching(ComponentReader &reader, const QByteArray &condition,
                       const SqlValues &values);
+    /// Every series and exception.
+    bool loadRecurring(ComponentReader &reader);
     /// All rows that @p condition holds for; the caller sees to it that families are whole.
     bool loadRows(ComponentReader &reader, const QByteArray &condition,
                   const SqlValues &values = {});

@@ -77,12 +77,12 @@ bool SqliteBulkWriter::write(const KCalCore::Incidence::Ptr &incidence, const QS
     StoredComponent stored;
     if (!m_tables->writer.find(incidence->uid(), recIdText(*incidence), &stored))
         return fail();
-    const bool written = stored.id != 0
+    // Most of an import rings nothing and has no family: nothing to plan, nothing to read again.
+    if (stored.id != 0 || incidence->hasEnabledAlarms() || incidence->hasRecurrenceId())
+        m_toPlan.insert(incidence->uid());
+    return stored.id != 0
         ? m_tables->writer.update(stored, *incidence, stored.notebook, m_change) || fail()
         : insert(*incidence, notebookUid);
-    if (written)
-        m_written.insert(incidence->uid());
-    return written;
 }
 
 bool SqliteBulkWriter::insert(const KCalCore::Incidence &incidence, const QString &notebookUid)
@@ -128,14 +128,14 @@ bool SqliteBulkWriter::remove(const QString &uid, const KDateTime &recurrenceId)
             || (stored.id != 0 && !m_tables->writer.retire(stored, false, m_change, now)))
             return fail();
     }
-    m_written.insert(uid);
+    m_toPlan.insert(uid);
     return true;
 }
 
 bool SqliteBulkWriter::planReminders()
 {
     ReminderSchedule schedule(m_connection, *m_tables, m_storage.calendar->timeZone());
-    for (const QString &uid : qAsConst(m_written)) {
+    for (const QString &uid : qAsConst(m_toPlan)) {
         if (!schedule.planStored(uid))
             return false;
     }

@@ -50,7 +50,7 @@ private:
     std::unique_ptr<Tables> m_tables;
     std::unique_ptr<Transaction> m_transaction;
     qint64 m_change = 0;
-    QSet<QString> m_written; ///< the UIDs
+    QSet<QString> m_toPlan; ///< the UIDs whose reminders may have changed
     QString m_errorMessage;
 };
 } // namespace mKCal
