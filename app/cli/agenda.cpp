@@ -15,7 +15,7 @@ namespace
 {
 /// A limit far beyond what a person reads, so that what repeats hourly is listed hourly for more
 /// than a year and what repeats every second still ends.
-constexpr int MaxOccurrences = 10000;
+constexpr int maxOccurrences = 10000;
 
 bool isListed(const KCalCore::Incidence::Ptr &incidence)
 {
@@ -86,7 +86,7 @@ void appendPieces(const ExtendedCalendar &calendar,
                   const ExtendedCalendar::ExpandedIncidence &occurrence, Agenda *agenda)
 {
     const auto pieces = calendar.expandMultiDay({occurrence}, agenda->from, agenda->to.addDays(1),
-                                                MaxOccurrences, true);
+                                                maxOccurrences, true);
     const auto &incidence = occurrence.second;
     for (const auto &piece : pieces) {
         agenda->entries.append(
@@ -120,11 +120,11 @@ ExtendedCalendar::ExpandedIncidenceList expand(const ExtendedCalendar &calendar,
     const KDateTime end(agenda->to.addDays(1), QTime(0, 0), zone);
     bool limitHit = false;
     const auto occurrences =
-        calendar.expandRecurrences(&incidences, start, end, MaxOccurrences, &limitHit);
+        calendar.expandRecurrences(&incidences, start, end, maxOccurrences, &limitHit);
     if (limitHit) {
         QHash<KCalCore::Incidence::Ptr, int> counts;
         for (const auto &occurrence : occurrences) {
-            if (++counts[occurrence.second] == MaxOccurrences) {
+            if (++counts[occurrence.second] == maxOccurrences) {
                 agenda->cutShort.append(titleText(occurrence.second->summary()));
             }
         }

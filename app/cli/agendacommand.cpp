@@ -15,76 +15,86 @@
 
 namespace
 {
-const QString FromOption = QStringLiteral("from");
-const QString ToOption = QStringLiteral("to");
-const QString DaysOption = QStringLiteral("days");
-const QString ZoneOption = QStringLiteral("zone");
-const QString JsonOption = QStringLiteral("json");
-constexpr int DefaultDays = 7;
+const QString fromOption = QStringLiteral("from");
+const QString toOption = QStringLiteral("to");
+const QString daysOption = QStringLiteral("days");
+const QString zoneOption = QStringLiteral("zone");
+const QString jsonOption = QStringLiteral("json");
+constexpr int defaultDays = 7;
 /// Ten years: what repeats daily stays within the limit that one item is listed with.
-constexpr int MaxDays = 3653;
+constexpr int maxDays = 3653;
 
 void declare(QCommandLineParser &parser)
 {
-    parser.addOption({FromOption, QStringLiteral("First day, such as 2026-05-01 (default: today)."),
+    parser.addOption({fromOption, QStringLiteral("First day, such as 2026-05-01 (default: today)."),
                       QStringLiteral("DATE")});
-    parser.addOption({ToOption, QStringLiteral("Last day, listed too."), QStringLiteral("DATE")});
-    parser.addOption({DaysOption,
-                      QStringLiteral("How many days instead (default: %1).").arg(DefaultDays),
+    parser.addOption({toOption, QStringLiteral("Last day, listed too."), QStringLiteral("DATE")});
+    parser.addOption({daysOption,
+                      QStringLiteral("How many days instead (default: %1).").arg(defaultDays),
                       QStringLiteral("N")});
-    parser.addOption({ZoneOption,
+    parser.addOption({zoneOption,
                       QStringLiteral("Time zone to read the times in, such as Europe/Helsinki "
                                      "(default: the system's)."),
                       QStringLiteral("ZONE")});
-    parser.addOption({JsonOption, QStringLiteral("Write JSON.")});
+    parser.addOption({jsonOption, QStringLiteral("Write JSON.")});
     NotebookFilter::declare(parser);
 }
 
-/// The days to list; an invalid first day after a message.
-QPair<QDate, QDate> readRange(const QCommandLineParser &parser, const QTimeZone &zone,
-                              Console &console)
+/// Reads the date of an option that is set; false after a message.
+bool readDate(const QCommandLineParser &parser, const QString &option, Console &console,
+              QDate *date)
 {
-    const auto readDate = [&](const QString &option, QDate *date) {
-        if (parser.isSet(option)) {
-            *date = QDate::fromString(parser.value(option), Qt::ISODate);
-            // Qt reads past separators and tails that are none.
-            if (!date->isValid() || date->toString(Qt::ISODate) != parser.value(option)) {
-                *date = QDate();
-                console.message(QStringLiteral("--%1: '%2' is not a date such as 2026-05-01")
-                                    .arg(option, parser.value(option)));
-            }
-        }
-        return date->isValid();
-    };
-    QDate from = KCalCompat::Clock::now().toTimeZone(zone).date();
-    if (!readDate(FromOption, &from)) {
-        return {};
+    if (!parser.isSet(option)) {
+        return true;
     }
-    // The last day that can be written as a date.
-    const QDate lastDay(9999, 12, 31);
-    QDate to = qMin(from.addDays(DefaultDays - 1), lastDay);
-    if (parser.isSet(ToOption) && parser.isSet(DaysOption)) {
+    *date = QDate::fromString(parser.value(option), Qt::ISODate);
+    // Qt reads past separators and tails that are none.
+    if (date->isValid() && date->toString(Qt::ISODate) == parser.value(option)) {
+        return true;
+    }
+    console.message(QStringLiteral("--%1: '%2' is not a date such as 2026-05-01")
+                        .arg(option, parser.value(option)));
+    return false;
+}
+
+/// How many days are asked for; 0 after a message.
+int readDays(const QCommandLineParser &parser, Console &console)
+{
+    if (!parser.isSet(daysOption)) {
+        return defaultDays;
+    }
+    bool isNumber = false;
+    const int days = parser.value(daysOption).toInt(&isNumber);
+    if (isNumber && days >= 1 && days <= maxDays) {
+        return days;
+    }
+    console.message(QStringLiteral("--days: '%1' is not a number from 1 to %2")
+                        .arg(parser.value(daysOption))
+                        .arg(maxDays));
+    return 0;
+}
+
+/// The days to list; an invalid first day after a message.
+QPair<QDate, QDate> readRange(const QCommandLineParser &parser, Console &console)
+{
+    if (parser.isSet(toOption) && parser.isSet(daysOption)) {
         console.message(QStringLiteral("--to and --days exclude each other"));
         return {};
     }
-    if (parser.isSet(DaysOption)) {
-        bool isNumber = false;
-        const int days = parser.value(DaysOption).toInt(&isNumber);
-        if (!isNumber || days < 1 || days > MaxDays) {
-            console.message(QStringLiteral("--days: '%1' is not a number from 1 to %2")
-                                .arg(parser.value(DaysOption))
-                                .arg(MaxDays));
-            return {};
-        }
-        to = qMin(from.addDays(days - 1), lastDay);
-    }
-    if (!readDate(ToOption, &to)) {
+    QDate from = KCalCompat::Clock::now().toTimeZone(KSystemTimeZones::local()).date();
+    const int days = readDays(parser, console);
+    if (days == 0 || !readDate(parser, fromOption, console, &from)) {
         return {};
     }
-    if (to < from || from.daysTo(to) >= MaxDays) {
+    // No later day can be written as a date.
+    QDate to = qMin(from.addDays(days - 1), QDate(9999, 12, 31));
+    if (!readDate(parser, toOption, console, &to)) {
+        return {};
+    }
+    if (to < from || from.daysTo(to) >= maxDays) {
         console.message(
             QStringLiteral("the last day must be the first or one of the %1 days after it")
-                .arg(MaxDays - 1));
+                .arg(maxDays - 1));
         return {};
     }
     return {from, to};
@@ -106,10 +116,10 @@ bool moveTo(const QString &zoneName, Console &console)
 
 ExitCode run(const QCommandLineParser &parser, Console &console)
 {
-    if (parser.isSet(ZoneOption) && !moveTo(parser.value(ZoneOption), console)) {
+    if (parser.isSet(zoneOption) && !moveTo(parser.value(zoneOption), console)) {
         return WrongUsage;
     }
-    const auto range = readRange(parser, KSystemTimeZones::local(), console);
+    const auto range = readRange(parser, console);
     if (!range.first.isValid()) {
         return WrongUsage;
     }
@@ -123,7 +133,7 @@ ExitCode run(const QCommandLineParser &parser, Console &console)
         console.message(agenda.error);
         return Failed;
     }
-    if (parser.isSet(JsonOption)) {
+    if (parser.isSet(jsonOption)) {
         QJsonArray array;
         for (const AgendaEntry &entry : agenda.entries) {
             array.append(agendaEntryToJson(entry));

@@ -13,7 +13,7 @@
 
 namespace
 {
-constexpr int TimeWidth = 13;
+constexpr int timeWidth = 13;
 
 QString timeText(const QDateTime &time)
 {
@@ -76,7 +76,7 @@ QString entryTitle(const KCalCore::Incidence::Ptr &incidence)
 
 void printEntry(const AgendaEntry &entry, const QString &notebookName, QTextStream &out)
 {
-    out << QStringLiteral("  ") << pieceText(entry).leftJustified(TimeWidth)
+    out << QStringLiteral("  ") << pieceText(entry).leftJustified(timeWidth)
         << entryTitle(entry.incidence);
     if (entry.dayCount() > 1) {
         out << QStringLiteral(" (day %1 of %2)").arg(entry.dayNumber()).arg(entry.dayCount());

@@ -12,11 +12,11 @@
 
 namespace
 {
-const QString RepairOption = QStringLiteral("repair");
+const QString repairOption = QStringLiteral("repair");
 
 void declare(QCommandLineParser &parser)
 {
-    parser.addOption({RepairOption,
+    parser.addOption({repairOption,
                       QStringLiteral("Write what can be saved into this new file; the database "
                                      "itself is not changed."),
                       QStringLiteral("FILE")});
@@ -40,14 +40,14 @@ void print(const mKCal::CheckReport &report, QTextStream &out)
 
 ExitCode check(const QString &fileName, Console &console)
 {
-    constexpr int MostProblems = 20;
+    constexpr int mostProblems = 20;
     const mKCal::CheckReport report = mKCal::checkDatabase(fileName);
-    for (const QString &problem : report.problems.mid(0, MostProblems)) {
+    for (const QString &problem : report.problems.mid(0, mostProblems)) {
         console.message(problem);
     }
-    if (report.problems.size() > MostProblems) {
+    if (report.problems.size() > mostProblems) {
         console.message(
-            QStringLiteral("and %1 problems more").arg(report.problems.size() - MostProblems));
+            QStringLiteral("and %1 problems more").arg(report.problems.size() - mostProblems));
     }
     if (!report.error.isEmpty()) {
         console.message(report.error);
@@ -78,8 +78,8 @@ ExitCode repair(const QString &fileName, const QString &target, Console &console
 
 ExitCode run(const QCommandLineParser &parser, Console &console)
 {
-    const QString target = parser.value(RepairOption);
-    if (parser.isSet(RepairOption) && target.isEmpty()) {
+    const QString target = parser.value(repairOption);
+    if (parser.isSet(repairOption) && target.isEmpty()) {
         console.message(QStringLiteral("--repair needs the name of a new file"));
         return WrongUsage;
     }
@@ -88,7 +88,7 @@ ExitCode run(const QCommandLineParser &parser, Console &console)
         console.message(QStringLiteral("there is no database file '%1'").arg(database.filePath()));
         return Failed;
     }
-    return parser.isSet(RepairOption) ? repair(database.filePath(), target, console)
+    return parser.isSet(repairOption) ? repair(database.filePath(), target, console)
                                       : check(database.filePath(), console);
 }
 } // namespace

@@ -19,7 +19,7 @@ enum ExitCode {
 
 /// How many words a command takes beside its options.
 struct ArgumentCount {
-    static constexpr int Any = std::numeric_limits<int>::max();
+    static constexpr int any = std::numeric_limits<int>::max();
     int least;
     int most;
     const char *missing; ///< what is said when there are too few

@@ -14,7 +14,7 @@
 
 namespace
 {
-constexpr const Command *Commands[] = {
+constexpr const Command *commands[] = {
     &importCommand, &exportCommand,    &agendaCommand,   &todosCommand, &showCommand,
     &searchCommand, &notebooksCommand, &notebookCommand, &checkCommand,
 };
@@ -34,7 +34,7 @@ QCommandLineOption helpOption()
 QString commandList()
 {
     QString list = QStringLiteral("Looks into and changes the calendar.\n\nCommands:\n");
-    for (const Command *command : Commands) {
+    for (const Command *command : commands) {
         list += QStringLiteral("  %1 %2\n")
                     .arg(QLatin1String(command->name), -10)
                     .arg(QLatin1String(command->summary));
@@ -46,7 +46,7 @@ QString commandList()
 
 const Command *findCommand(const QString &name)
 {
-    for (const Command *command : Commands) {
+    for (const Command *command : commands) {
         if (name == QLatin1String(command->name)) {
             return command;
         }

@@ -33,16 +33,16 @@ void Console::message(const QString &text)
 
 void Console::progress(qint64 done, qint64 total)
 {
-    constexpr int Width = 40;
+    constexpr int width = 40;
     const int percent =
         total > 0 ? static_cast<int>(qBound<qint64>(0, done * 100 / total, 100)) : 100;
     if (!m_isTerminal || percent == m_percent) {
         return;
     }
     m_percent = percent;
-    const int filled = percent * Width / 100;
+    const int filled = percent * width / 100;
     m_err << QLatin1String("\r[") << QString(filled, QLatin1Char('='))
-          << QString(Width - filled, QLatin1Char(' ')) << QStringLiteral("] %1 %").arg(percent, 3)
+          << QString(width - filled, QLatin1Char(' ')) << QStringLiteral("] %1 %").arg(percent, 3)
           << Qt::flush;
 }
 

@@ -57,7 +57,7 @@ mKCal::ExtendedStorage::Ptr Database::storage() const
 
 mKCal::Notebook::Ptr Database::findNotebook(const QString &uidOrName) const
 {
-    if (const auto notebook = storage()->notebook(uidOrName)) {
+    if (auto notebook = storage()->notebook(uidOrName)) {
         return notebook;
     }
     mKCal::Notebook::List named;

@@ -14,12 +14,12 @@
 
 namespace
 {
-const QString NotebookOption = QStringLiteral("notebook");
+const QString notebookOption = QStringLiteral("notebook");
 
 void declare(QCommandLineParser &parser)
 {
     parser.addOption(
-        {NotebookOption, QStringLiteral("Export this notebook alone."), QStringLiteral("UID")});
+        {notebookOption, QStringLiteral("Export this notebook alone."), QStringLiteral("UID")});
     NotebookFilter::declare(parser);
     parser.addPositionalArgument(
         QStringLiteral("file"),
@@ -32,8 +32,8 @@ bool collect(const Database &database, const QCommandLineParser &parser,
              KCalCore::Incidence::List *incidences, Console &console)
 {
     QStringList notebookUids;
-    if (parser.isSet(NotebookOption)) {
-        const auto notebook = database.findNotebook(parser.value(NotebookOption));
+    if (parser.isSet(notebookOption)) {
+        const auto notebook = database.findNotebook(parser.value(notebookOption));
         if (!notebook) {
             return false;
         }

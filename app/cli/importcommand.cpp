@@ -11,12 +11,12 @@
 
 namespace
 {
-const QString NotebookOption = QStringLiteral("notebook");
+const QString notebookOption = QStringLiteral("notebook");
 
 void declare(QCommandLineParser &parser)
 {
     parser.addOption(
-        {NotebookOption,
+        {notebookOption,
          QStringLiteral("Notebook that takes new items (default: the default notebook)."),
          QStringLiteral("UID")});
     parser.addPositionalArgument(QStringLiteral("files"), QStringLiteral("iCalendar files."),
@@ -43,8 +43,8 @@ ExitCode run(const QCommandLineParser &parser, Console &console)
         return Failed;
     }
     mKCal::CalendarImporter importer(database.storage());
-    if (parser.isSet(NotebookOption)) {
-        const auto notebook = database.findNotebook(parser.value(NotebookOption));
+    if (parser.isSet(notebookOption)) {
+        const auto notebook = database.findNotebook(parser.value(notebookOption));
         if (!notebook) {
             return Failed;
         }
@@ -74,6 +74,6 @@ ExitCode run(const QCommandLineParser &parser, Console &console)
 
 const Command importCommand = {"import",
                                "Takes iCalendar files into the calendar.",
-                               {1, ArgumentCount::Any, "no file given"},
+                               {1, ArgumentCount::any, "no file given"},
                                declare,
                                run};

@@ -16,25 +16,25 @@ using mKCal::Notebook;
 
 namespace
 {
-const QString NameOption = QStringLiteral("name");
-const QString ColorOption = QStringLiteral("color");
-const QString DescriptionOption = QStringLiteral("description");
-const QString VisibleOption = QStringLiteral("visible");
-const QString ReadOnlyOption = QStringLiteral("read-only");
-const QString UidOption = QStringLiteral("uid");
+const QString nameOption = QStringLiteral("name");
+const QString colorOption = QStringLiteral("color");
+const QString descriptionOption = QStringLiteral("description");
+const QString visibleOption = QStringLiteral("visible");
+const QString readOnlyOption = QStringLiteral("read-only");
+const QString uidOption = QStringLiteral("uid");
 
 void declare(QCommandLineParser &parser)
 {
     parser.addOption(
-        {NameOption, QStringLiteral("New name of an edited notebook."), QStringLiteral("NAME")});
+        {nameOption, QStringLiteral("New name of an edited notebook."), QStringLiteral("NAME")});
     parser.addOption(
-        {ColorOption, QStringLiteral("Colour, such as #63B33B."), QStringLiteral("COLOR")});
-    parser.addOption({DescriptionOption, QStringLiteral("Description."), QStringLiteral("TEXT")});
-    parser.addOption({VisibleOption, QStringLiteral("Whether views show it: yes or no."),
+        {colorOption, QStringLiteral("Colour, such as #63B33B."), QStringLiteral("COLOR")});
+    parser.addOption({descriptionOption, QStringLiteral("Description."), QStringLiteral("TEXT")});
+    parser.addOption({visibleOption, QStringLiteral("Whether views show it: yes or no."),
                       QStringLiteral("yes|no")});
-    parser.addOption({ReadOnlyOption, QStringLiteral("Whether it is only read: yes or no."),
+    parser.addOption({readOnlyOption, QStringLiteral("Whether it is only read: yes or no."),
                       QStringLiteral("yes|no")});
-    parser.addOption({UidOption, QStringLiteral("UID of the added notebook (default: a new one)."),
+    parser.addOption({uidOption, QStringLiteral("UID of the added notebook (default: a new one)."),
                       QStringLiteral("UID")});
     parser.addPositionalArgument(
         QStringLiteral("action"),
@@ -47,7 +47,7 @@ void declare(QCommandLineParser &parser)
 /// Takes the options over into @p notebook; false after a message when one is not understood.
 bool applyOptions(const QCommandLineParser &parser, Notebook *notebook, Console &console)
 {
-    static const QRegularExpression ColorForm(QStringLiteral("^#[0-9A-Fa-f]{6}$"));
+    static const QRegularExpression colorForm(QStringLiteral("^#[0-9A-Fa-f]{6}$"));
     const auto readSwitch = [&](const QString &option, void (Notebook::*set)(bool)) {
         const QString value = parser.value(option);
         if (value != QLatin1String("yes") && value != QLatin1String("no")) {
@@ -57,22 +57,22 @@ bool applyOptions(const QCommandLineParser &parser, Notebook *notebook, Console 
         (notebook->*set)(value == QLatin1String("yes"));
         return true;
     };
-    if (parser.isSet(NameOption)) {
-        notebook->setName(parser.value(NameOption));
+    if (parser.isSet(nameOption)) {
+        notebook->setName(parser.value(nameOption));
     }
-    if (parser.isSet(DescriptionOption)) {
-        notebook->setDescription(parser.value(DescriptionOption));
+    if (parser.isSet(descriptionOption)) {
+        notebook->setDescription(parser.value(descriptionOption));
     }
-    if (parser.isSet(ColorOption)) {
-        if (!ColorForm.match(parser.value(ColorOption)).hasMatch()) {
+    if (parser.isSet(colorOption)) {
+        if (!colorForm.match(parser.value(colorOption)).hasMatch()) {
             console.message(QStringLiteral("--color: '%1' is not a colour such as #63B33B")
-                                .arg(parser.value(ColorOption)));
+                                .arg(parser.value(colorOption)));
             return false;
         }
-        notebook->setColor(parser.value(ColorOption));
+        notebook->setColor(parser.value(colorOption));
     }
-    return (!parser.isSet(VisibleOption) || readSwitch(VisibleOption, &Notebook::setIsVisible))
-        && (!parser.isSet(ReadOnlyOption) || readSwitch(ReadOnlyOption, &Notebook::setIsReadOnly));
+    return (!parser.isSet(visibleOption) || readSwitch(visibleOption, &Notebook::setIsVisible))
+        && (!parser.isSet(readOnlyOption) || readSwitch(readOnlyOption, &Notebook::setIsReadOnly));
 }
 
 ExitCode finish(bool accepted, const Database &database, Console &console)
@@ -89,8 +89,8 @@ ExitCode add(const QCommandLineParser &parser, const QString &name, const Databa
     const auto notebook = Notebook::Ptr::create();
     notebook->setName(name);
     notebook->setColor(QStringLiteral("#63B33B"));
-    if (parser.isSet(UidOption)) {
-        notebook->setUid(parser.value(UidOption));
+    if (parser.isSet(uidOption)) {
+        notebook->setUid(parser.value(uidOption));
     }
     if (!applyOptions(parser, notebook.data(), console)) {
         return WrongUsage;
@@ -141,12 +141,12 @@ struct Action {
                     const Database &database, Console &console);
 };
 
-const QVector<Action> Actions = {
+const QVector<Action> actions = {
     {QStringLiteral("add"),
-     {UidOption, ColorOption, DescriptionOption, VisibleOption, ReadOnlyOption},
+     {uidOption, colorOption, descriptionOption, visibleOption, readOnlyOption},
      add},
     {QStringLiteral("edit"),
-     {NameOption, ColorOption, DescriptionOption, VisibleOption, ReadOnlyOption},
+     {nameOption, colorOption, descriptionOption, visibleOption, readOnlyOption},
      edit},
     {QStringLiteral("delete"), {}, remove},
     {QStringLiteral("default"), {}, makeDefault},
@@ -156,12 +156,12 @@ const QVector<Action> Actions = {
 QString misfit(const QCommandLineParser &parser, const Action &action)
 {
     for (const QString &option :
-         {NameOption, ColorOption, DescriptionOption, VisibleOption, ReadOnlyOption, UidOption}) {
+         {nameOption, colorOption, descriptionOption, visibleOption, readOnlyOption, uidOption}) {
         if (parser.isSet(option) && !action.options.contains(option)) {
             return QStringLiteral("%1: --%2 does not belong here").arg(action.name, option);
         }
     }
-    for (const QString &option : {NameOption, UidOption}) {
+    for (const QString &option : {nameOption, uidOption}) {
         if (parser.isSet(option) && parser.value(option).trimmed().isEmpty()) {
             return QStringLiteral("%1: --%2 is empty").arg(action.name, option);
         }
@@ -180,9 +180,9 @@ ExitCode run(const QCommandLineParser &parser, Console &console)
 {
     const QString wanted = parser.positionalArguments().at(0);
     const QString notebook = parser.positionalArguments().at(1).trimmed();
-    const auto action = std::find_if(Actions.begin(), Actions.end(),
+    const auto action = std::find_if(actions.begin(), actions.end(),
                                      [&wanted](const Action &each) { return each.name == wanted; });
-    if (action == Actions.end()) {
+    if (action == actions.end()) {
         console.message(
             QStringLiteral("'%1' is none of add, edit, delete and default").arg(wanted));
         return WrongUsage;

@@ -11,12 +11,12 @@
 
 namespace
 {
-const QString JsonOption = QStringLiteral("json");
-constexpr int ColorWidth = 9;
+const QString jsonOption = QStringLiteral("json");
+constexpr int colorWidth = 9;
 
 void declare(QCommandLineParser &parser)
 {
-    parser.addOption({JsonOption, QStringLiteral("Write JSON.")});
+    parser.addOption({jsonOption, QStringLiteral("Write JSON.")});
 }
 
 QJsonObject toJson(const mKCal::Notebook &notebook, bool isDefault)
@@ -60,15 +60,15 @@ ExitCode run(const QCommandLineParser &parser, Console &console)
     QJsonArray array;
     for (const auto &notebook : database.storage()->notebooks()) {
         const bool isDefault = defaultNotebook && defaultNotebook->uid() == notebook->uid();
-        if (parser.isSet(JsonOption)) {
+        if (parser.isSet(jsonOption)) {
             array.append(toJson(*notebook, isDefault));
         } else {
             console.out() << printable(notebook->uid()) << "  "
-                          << notebook->color().leftJustified(ColorWidth)
+                          << notebook->color().leftJustified(colorWidth)
                           << titleText(notebook->name()) << marks(*notebook, isDefault) << '\n';
         }
     }
-    if (parser.isSet(JsonOption)) {
+    if (parser.isSet(jsonOption)) {
         console.json(QJsonDocument(array));
     }
     return Done;

@@ -15,11 +15,11 @@
 
 namespace
 {
-const QString JsonOption = QStringLiteral("json");
+const QString jsonOption = QStringLiteral("json");
 
 void declare(QCommandLineParser &parser)
 {
-    parser.addOption({JsonOption, QStringLiteral("Write JSON.")});
+    parser.addOption({jsonOption, QStringLiteral("Write JSON.")});
     NotebookFilter::declare(parser);
     parser.addPositionalArgument(
         QStringLiteral("text"),
@@ -29,12 +29,12 @@ void declare(QCommandLineParser &parser)
 
 void print(const KCalCore::Incidence::Ptr &incidence, const QTimeZone &zone, QTextStream &out)
 {
-    constexpr int TimeWidth = 18;
-    constexpr int TypeWidth = 9;
+    constexpr int timeWidth = 18;
+    constexpr int typeWidth = 9;
     const auto todo = incidence.dynamicCast<KCalCore::Todo>();
     const QDateTime time = todo && todo->hasDueDate() ? todo->dtDue() : incidence->dtStart();
-    out << shortText(time, incidence->allDay(), zone).leftJustified(TimeWidth)
-        << typeName(incidence).leftJustified(TypeWidth) << titleText(incidence->summary())
+    out << shortText(time, incidence->allDay(), zone).leftJustified(timeWidth)
+        << typeName(incidence).leftJustified(typeWidth) << titleText(incidence->summary())
         << QStringLiteral("  · ") << printable(incidence->uid()) << '\n';
 }
 
@@ -59,7 +59,7 @@ ExitCode run(const QCommandLineParser &parser, Console &console)
     KCalCore::Incidence::List found;
     std::copy_if(matching.begin(), matching.end(), std::back_inserter(found),
                  [&filter](const auto &incidence) { return filter.shows(incidence); });
-    if (parser.isSet(JsonOption)) {
+    if (parser.isSet(jsonOption)) {
         QJsonArray array;
         for (const auto &incidence : qAsConst(found)) {
             array.append(incidenceDetailsToJson(*calendar, incidence));
@@ -78,4 +78,4 @@ ExitCode run(const QCommandLineParser &parser, Console &console)
 } // namespace
 
 const Command searchCommand = {
-    "search", "Finds items by their text.", {1, ArgumentCount::Any, "no text given"}, declare, run};
+    "search", "Finds items by their text.", {1, ArgumentCount::any, "no text given"}, declare, run};

@@ -14,12 +14,12 @@
 
 namespace
 {
-const QString JsonOption = QStringLiteral("json");
-const QString NotebookKey = QStringLiteral("notebook");
+const QString jsonOption = QStringLiteral("json");
+const QString notebookKey = QStringLiteral("notebook");
 
 void declare(QCommandLineParser &parser)
 {
-    parser.addOption({JsonOption, QStringLiteral("Write JSON.")});
+    parser.addOption({jsonOption, QStringLiteral("Write JSON.")});
     parser.addPositionalArgument(QStringLiteral("uid"), QStringLiteral("UID of the item."),
                                  QStringLiteral("UID"));
 }
@@ -31,10 +31,10 @@ QString durationText(int seconds)
         int seconds;
         const char *name;
     };
-    static constexpr Unit Units[] = {{86400, " d"}, {3600, " h"}, {60, " min"}, {1, " s"}};
+    static constexpr Unit units[] = {{86400, " d"}, {3600, " h"}, {60, " min"}, {1, " s"}};
     QStringList parts;
     int left = std::abs(seconds);
-    for (const Unit &unit : Units) {
+    for (const Unit &unit : units) {
         if (left >= unit.seconds) {
             parts.append(QString::number(left / unit.seconds) + QLatin1String(unit.name));
             left %= unit.seconds;
@@ -98,9 +98,9 @@ QString valueText(const QJsonValue &value)
 
 void print(const QJsonObject &object, QTextStream &out)
 {
-    constexpr int NameWidth = 17;
+    constexpr int nameWidth = 17;
     // The order in which a person asks, not that of the letters.
-    static const char *const Names[] = {"summary",      "type",
+    static const char *const names[] = {"summary",      "type",
                                         "start",        "end",
                                         "due",          "zone",
                                         "allDay",       "location",
@@ -113,8 +113,8 @@ void print(const QJsonObject &object, QTextStream &out)
                                         "categories",   "url",
                                         "description",  "notebook",
                                         "uid",          "lastModified"};
-    const QString newLine = QLatin1Char('\n') + QString(NameWidth, QLatin1Char(' '));
-    for (const char *name : Names) {
+    const QString newLine = QLatin1Char('\n') + QString(nameWidth, QLatin1Char(' '));
+    for (const char *name : names) {
         const QString text = valueText(object.value(QLatin1String(name))).trimmed();
         if (text.isEmpty()) {
             continue;
@@ -123,7 +123,7 @@ void print(const QJsonObject &object, QTextStream &out)
         for (QString &line : lines) {
             line = printable(line.remove(QLatin1Char('\r')));
         }
-        out << QString::fromLatin1(name).leftJustified(NameWidth) << lines.join(newLine) << '\n';
+        out << QString::fromLatin1(name).leftJustified(nameWidth) << lines.join(newLine) << '\n';
     }
 }
 
@@ -167,16 +167,16 @@ ExitCode run(const QCommandLineParser &parser, Console &console)
     for (const auto &incidence : found) {
         array.append(incidenceDetailsToJson(*calendar, incidence));
     }
-    if (parser.isSet(JsonOption)) {
+    if (parser.isSet(jsonOption)) {
         console.json(QJsonDocument(array));
         return Done;
     }
     for (int i = 0; i < array.size(); ++i) {
         console.out() << (i > 0 ? "\n" : "");
         QJsonObject object = array.at(i).toObject();
-        const auto notebook = database.storage()->notebook(object.value(NotebookKey).toString());
+        const auto notebook = database.storage()->notebook(object.value(notebookKey).toString());
         if (notebook) {
-            object.insert(NotebookKey, notebook->name());
+            object.insert(notebookKey, notebook->name());
         }
         print(object, console.out());
     }

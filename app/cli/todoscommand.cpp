@@ -17,13 +17,13 @@
 
 namespace
 {
-const QString AllOption = QStringLiteral("all");
-const QString JsonOption = QStringLiteral("json");
+const QString allOption = QStringLiteral("all");
+const QString jsonOption = QStringLiteral("json");
 
 void declare(QCommandLineParser &parser)
 {
-    parser.addOption({AllOption, QStringLiteral("List completed ones too.")});
-    parser.addOption({JsonOption, QStringLiteral("Write JSON.")});
+    parser.addOption({allOption, QStringLiteral("List completed ones too.")});
+    parser.addOption({jsonOption, QStringLiteral("Write JSON.")});
     NotebookFilter::declare(parser);
 }
 
@@ -57,12 +57,12 @@ bool isOverdue(const KCalCore::Todo &todo, const QDateTime &now)
 
 void print(const KCalCore::Todo::List &todos, const QTimeZone &zone, QTextStream &out)
 {
-    constexpr int DueWidth = 18;
+    constexpr int dueWidth = 18;
     const QDateTime now = KCalCompat::Clock::now().toTimeZone(zone);
     for (const auto &todo : todos) {
         const QDateTime due = todo->hasDueDate() ? todo->dtDue() : QDateTime();
         out << (todo->isCompleted() ? "[x] " : "[ ] ")
-            << shortText(due, todo->allDay(), zone).leftJustified(DueWidth)
+            << shortText(due, todo->allDay(), zone).leftJustified(dueWidth)
             << titleText(todo->summary()) << (isOverdue(*todo, now) ? " (overdue)" : "") << '\n';
     }
     if (todos.isEmpty()) {
@@ -76,7 +76,7 @@ ExitCode run(const QCommandLineParser &parser, Console &console)
     if (!database.isOpen()) {
         return Failed;
     }
-    const bool completedToo = parser.isSet(AllOption);
+    const bool completedToo = parser.isSet(allOption);
     if (!load(database, completedToo)) {
         console.message(database.storage()->errorMessage());
         return Failed;
@@ -90,7 +90,7 @@ ExitCode run(const QCommandLineParser &parser, Console &console)
         }
     }
     std::stable_sort(todos.begin(), todos.end(), comesBefore);
-    if (!parser.isSet(JsonOption)) {
+    if (!parser.isSet(jsonOption)) {
         print(todos, database.calendar()->timeZone(), console.out());
         return Done;
     }

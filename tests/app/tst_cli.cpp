@@ -12,7 +12,7 @@
 
 namespace
 {
-const QByteArray BadCalendar = "BEGIN:VCALENDAR\r\nVERSION:2.0\r\nPRODID:test\r\n"
+const QByteArray badCalendar = "BEGIN:VCALENDAR\r\nVERSION:2.0\r\nPRODID:test\r\n"
                                "BEGIN:VEVENT\r\nUID:good\r\nDTSTAMP:20260101T000000Z\r\n"
                                "SUMMARY:Good\r\nDTSTART:20260501T080000Z\r\nEND:VEVENT\r\n"
                                "BEGIN:VEVENT\r\nUID:dateless\r\nDTSTAMP:20260101T000000Z\r\n"
@@ -162,7 +162,7 @@ void TestCli::importAgain()
 void TestCli::importSkips()
 {
     CliRunner cli;
-    cli.write("bad.ics", BadCalendar);
+    cli.write("bad.ics", badCalendar);
     cli.write("empty.ics", QByteArray());
     const CliResult result = cli.run({"import", "bad.ics", "missing.ics", "empty.ics"});
     QCOMPARE(

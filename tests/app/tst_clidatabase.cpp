@@ -10,7 +10,7 @@
 
 namespace
 {
-constexpr int PageSize = 4096;
+constexpr int pageSize = 4096;
 
 QByteArray manyEvents(int count)
 {
@@ -151,8 +151,8 @@ void TestCliDatabase::damaged()
     cli.write("many.ics", manyEvents(2000));
     QCOMPARE(cli.run({"import", "many.ics"}).exitCode, 0);
     QByteArray content = CliRunner::read(cli.databaseFile());
-    const int middle = content.size() / PageSize / 3 * PageSize;
-    content.replace(middle, 4 * PageSize, QByteArray(4 * PageSize, '\xa5'));
+    const int middle = content.size() / pageSize / 3 * pageSize;
+    content.replace(middle, 4 * pageSize, QByteArray(4 * pageSize, '\xa5'));
     cli.write("data/calendar.db", content);
 
     const CliResult found = cli.run({"check"});
@@ -180,7 +180,7 @@ void TestCliDatabase::cutOff()
     CliRunner cli;
     cli.write("many.ics", manyEvents(2000));
     QCOMPARE(cli.run({"import", "many.ics"}).exitCode, 0);
-    const QByteArray content = CliRunner::read(cli.databaseFile()).left(25 * PageSize);
+    const QByteArray content = CliRunner::read(cli.databaseFile()).left(25 * pageSize);
     cli.write("data/calendar.db", content);
     const CliResult agenda = cli.run({"agenda", "--from", "2026-05-01"});
     QVERIFY2(

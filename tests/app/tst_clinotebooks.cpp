@@ -10,8 +10,8 @@
 
 namespace
 {
-const char *const Personal = "11111111-2222-3333-4444-555555555555";
-const char *const Notes = "66666666-7777-8888-9999-000000000000";
+const char *const personal = "11111111-2222-3333-4444-555555555555";
+const char *const notes = "66666666-7777-8888-9999-000000000000";
 
 QJsonArray toArray(const QString &text)
 {
@@ -52,7 +52,7 @@ void TestCliNotebooks::fresh()
     CliRunner cli;
     QCOMPARE(cli.run({"notebooks"}).out,
              QString("%1  #63B33B  Personal (default)\n%2  #63B33B  Notes (not in lists)\n")
-                 .arg(Personal, Notes));
+                 .arg(personal, notes));
     cli.environment.insert("LC_ALL", "C");
     QCOMPARE(values(cli.run({"notebooks", "--json"}).out, "name"),
              QStringList({"Personal", "Notes"}));
@@ -121,7 +121,7 @@ void TestCliNotebooks::defaultAndDelete()
     QCOMPARE(cli.run({"notebook", "delete", "work"}).exitCode, 0);
     QCOMPARE(toArray(cli.run(agenda).out).size(), 0);
     QVERIFY(cli.run({"notebooks"})
-                .out.startsWith(QString("%1  #63B33B  Personal (default)").arg(Personal)));
+                .out.startsWith(QString("%1  #63B33B  Personal (default)").arg(personal)));
     QVERIFY(cli.run({"check"}).out.contains("deleted, kept         6\n"));
 }
 
