@@ -10,6 +10,7 @@
 #include <QRegularExpression>
 
 #include <algorithm>
+#include <cstdlib>
 
 namespace mKCal
 {
@@ -92,32 +93,48 @@ QDateTime untilAsMeant(const RecurrenceRule *rule, const Incidence::Ptr &inciden
     return clock.isClockTime() ? until : until.toUTC();
 }
 
-QList<int> withoutRepetition(const QList<int> &numbers)
+/// A part of a rule that lists numbers (RFC 5545 section 3.3.10).
+struct NumberPart {
+    const QList<int> &(RecurrenceRule::*numbers)() const;
+    void (RecurrenceRule::*setNumbers)(const QList<int> &);
+    int lowest;
+    int highest;
+    bool countsFromTheEnd; ///< the same numbers below zero, too
+};
+
+constexpr NumberPart NumberParts[] = {
+    {&RecurrenceRule::bySeconds, &RecurrenceRule::setBySeconds, 0, 60, false},
+    {&RecurrenceRule::byMinutes, &RecurrenceRule::setByMinutes, 0, 59, false},
+    {&RecurrenceRule::byHours, &RecurrenceRule::setByHours, 0, 23, false},
+    {&RecurrenceRule::byMonthDays, &RecurrenceRule::setByMonthDays, 1, 31, true},
+    {&RecurrenceRule::byYearDays, &RecurrenceRule::setByYearDays, 1, 366, true},
+    {&RecurrenceRule::byWeekNumbers, &RecurrenceRule::setByWeekNumbers, 1, 53, true},
+    {&RecurrenceRule::byMonths, &RecurrenceRule::setByMonths, 1, 12, false},
+    {&RecurrenceRule::bySetPos, &RecurrenceRule::setBySetPos, 1, 366, true},
+};
+
+/// Leaves out numbers that cannot be (other calendars have a thirteenth month) and repeated ones:
+/// ICalFormat writes some twice, and gives their occurrences as often. False when nothing is left
+/// of a part: such a rule has no occurrence, and without the part it would have too many.
+bool keepPossibleNumbers(RecurrenceRule *rule)
 {
-    QList<int> result;
-    for (const int number : numbers) {
-        if (!result.contains(number)) {
-            result.append(number);
+    for (const NumberPart &part : NumberParts) {
+        const QList<int> &numbers = (rule->*part.numbers)();
+        QList<int> kept;
+        for (const int number : numbers) {
+            const int distance = part.countsFromTheEnd ? std::abs(number) : number;
+            if (distance >= part.lowest && distance <= part.highest && !kept.contains(number)) {
+                kept.append(number);
+            }
+        }
+        if (kept.isEmpty() && !numbers.isEmpty()) {
+            return false;
+        }
+        if (kept.size() != numbers.size()) {
+            (rule->*part.setNumbers)(kept);
         }
     }
-    return result;
-}
-
-/// ICalFormat writes these numbers twice; a file that it wrote gives an occurrence several times.
-void removeRepetition(RecurrenceRule *rule)
-{
-    const QList<int> hours = withoutRepetition(rule->byHours());
-    const QList<int> minutes = withoutRepetition(rule->byMinutes());
-    const QList<int> seconds = withoutRepetition(rule->bySeconds());
-    if (hours != rule->byHours()) {
-        rule->setByHours(hours);
-    }
-    if (minutes != rule->byMinutes()) {
-        rule->setByMinutes(minutes);
-    }
-    if (seconds != rule->bySeconds()) {
-        rule->setBySeconds(seconds);
-    }
+    return true;
 }
 
 /// Excluded and added dates of an all-day series are dates, even where a file gives instants.
@@ -160,17 +177,30 @@ template <typename Convert> void convertAddedTimes(Recurrence *recurrence, const
     }
 }
 
+void readRule(RecurrenceRule *rule, const Incidence::Ptr &incidence)
+{
+    if (hasUntil(rule)) {
+        rule->setEndDt(untilAsMeant(rule, incidence));
+    }
+    // The text says no more than the rule does now, and would not follow its changes.
+    rule->setRRule(QString());
+}
+
 void readRecurrence(const Incidence::Ptr &incidence)
 {
-    for (RecurrenceRule *rule : allRules(incidence)) {
-        if (hasUntil(rule)) {
-            rule->setEndDt(untilAsMeant(rule, incidence));
-        }
-        removeRepetition(rule);
-        // The text says no more than the rule does now, and would not follow its changes.
-        rule->setRRule(QString());
-    }
     Recurrence *recurrence = incidence->recurrence();
+    for (RecurrenceRule *rule : recurrence->rRules()) {
+        readRule(rule, incidence);
+        if (!keepPossibleNumbers(rule)) {
+            recurrence->deleteRRule(rule);
+        }
+    }
+    for (RecurrenceRule *rule : recurrence->exRules()) {
+        readRule(rule, incidence);
+        if (!keepPossibleNumbers(rule)) {
+            recurrence->deleteExRule(rule);
+        }
+    }
     if (incidence->allDay()) {
         makeDates(recurrence);
         return;

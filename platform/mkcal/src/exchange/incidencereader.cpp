@@ -94,15 +94,21 @@ QStringList lossesOf(const CalendarComponent &component, const Incidence::Ptr &i
                           .arg(quoted(zone));
         }
     }
-    if (component.text.contains("RRULE") && incidence->recurrence()->rRules().isEmpty()) {
-        const QByteArray rule = ContentLine::find(component.text, "RRULE");
-        losses += QStringLiteral("it does not repeat, its rule cannot be read: %1")
-                      .arg(quoted(ContentLine::value(rule)));
-    }
     if (component.text.contains("RSCALE=") && !component.text.contains("RSCALE=GREGORIAN")) {
         losses += QStringLiteral("it repeats by the Gregorian calendar, not by its own");
     }
     return losses;
+}
+
+/// @param incidence in our convention.
+QStringList lostRule(const CalendarComponent &component, const Incidence::Ptr &incidence)
+{
+    if (!component.text.contains("RRULE") || !incidence->recurrence()->rRules().isEmpty()) {
+        return QStringList();
+    }
+    const QByteArray rule = ContentLine::find(component.text, "RRULE");
+    return {QStringLiteral("it does not repeat, its rule cannot be followed: %1")
+                .arg(quoted(ContentLine::value(rule)))};
 }
 } // namespace
 
@@ -202,5 +208,6 @@ void IncidenceReader::finish(Result *result)
     result->losses = lossesOf(result->component, result->incidence);
     TextCarrier::afterReading(result->incidence);
     fromICalendarConvention(result->incidence);
+    result->losses += lostRule(result->component, result->incidence);
 }
 } // namespace mKCal
