@@ -5,6 +5,7 @@
 
 import os
 import subprocess
+import textwrap
 import time
 from contextlib import contextmanager
 
@@ -57,4 +58,5 @@ def output_of(*command, env=None, **options):
             text=True, errors="replace", check=False, **options)
     except OSError as error:
         return False, str(error)
-    return result.returncode == 0, f"$ {' '.join(map(str, command))}\n{result.stdout}"
+    called = textwrap.shorten(" ".join(map(str, command)), 200)
+    return result.returncode == 0, f"$ {called}\n{result.stdout}"
