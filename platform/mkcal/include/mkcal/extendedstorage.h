@@ -64,9 +64,9 @@ public:
     /// null) is set to the start of the last one loaded, invalid when none was.
     virtual bool loadFutureIncidences(int limit, KDateTime *last) = 0;
     /// The next page of completed to-dos, newest completion first: those completed before @p last
-    /// (from the newest when it is null or invalid); sets @p last for the next page. Those completed
-    /// in one second stay on one page, which may make it longer than @p limit. Returns how many
-    /// there were, -1 on failure.
+    /// (from the newest when it is null or invalid); sets @p last for the next page. Those
+    /// completed in one second stay on one page, which may make it longer than @p limit. Returns
+    /// how many there were, -1 on failure.
     virtual int loadCompletedTodos(int limit, KDateTime *last) = 0;
     /// Those created or last modified at or after @p since (UTC).
     virtual bool loadCreatedSince(const QDateTime &since) = 0;
