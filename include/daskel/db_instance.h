@@ -93,13 +93,13 @@ public:
     /// incidence the last one that starts at or before @p time (invalid when there is none), of
     /// any other its start. Invalid for null.
     static QDateTime incidenceRecurrenceStart(QSharedPointer<KCalCore::Incidence> &incidence,
-                                              QDateTime time);
+                                              const QDateTime &time);
     /// When that occurrence ends, in the local zone, cut at a day boundary when that is on another
     /// local date than @p time: at the first second of the end's date, or its last second
     /// (23:59:59) with @p endOfDay. An incidence without an end ends where it starts. Invalid for
     /// null.
     static QDateTime incidenceEndTime(QSharedPointer<KCalCore::Incidence> &incidence,
-                                      QDateTime time, bool endOfDay);
+                                      const QDateTime &time, bool endOfDay);
 
     /// The clock or the zone of the system changed: the calendar takes the new zone over. Emits
     /// dataUpdated().
@@ -150,6 +150,8 @@ private:
     DbInstance();
     ~DbInstance() override;
     Q_DISABLE_COPY(DbInstance)
+
+    void drop();
 
     friend class DbInstancePrivate;
     std::unique_ptr<DbInstancePrivate> d;

@@ -46,7 +46,8 @@ public:
 
     /// Puts an incidence of the calendar into another notebook; unsaved until DbInstance::save().
     /// False, and nothing changed, when there is no such notebook or it does not allow that kind.
-    bool setIncidenceNotebook(QSharedPointer<KCalCore::Incidence> incidence, const QString &uid);
+    bool setIncidenceNotebook(const QSharedPointer<KCalCore::Incidence> &incidence,
+                              const QString &uid);
 
 Q_SIGNALS:
     /// The list was read anew.

@@ -54,6 +54,7 @@ DbInstancePrivate::DbInstancePrivate(DbInstance *instance)
 DbInstancePrivate::~DbInstancePrivate()
 {
     storage->unregisterObserver(q);
+    initFuture.waitForFinished();
     initWatcher.setFuture(QFuture<void>());
 }
 
@@ -111,13 +112,18 @@ DbInstance *DbInstance::instance()
     return &instance;
 }
 
+void DbInstance::drop()
+{
+    // The worker looks at `d`, which has to stay until it is done.
+    if (d)
+        d->waitForPreload();
+    d.reset();
+}
+
 void DbInstance::destroy()
 {
-    if (theInstance != nullptr && theInstance->d) {
-        // The worker looks at `d`, which has to stay until it is done.
-        theInstance->d->initWatcher.waitForFinished();
-        theInstance->d.reset();
-    }
+    if (theInstance != nullptr)
+        theInstance->drop();
     // What the process keeps for all calendars: the calendar library itself keeps nothing.
     KSystemTimeZones::cleanup();
 }
@@ -125,10 +131,7 @@ void DbInstance::destroy()
 void DbInstance::recreate()
 {
     DbInstance *const self = instance();
-    if (self->d) {
-        self->d->initWatcher.waitForFinished();
-        self->d.reset();
-    }
+    self->drop();
     self->d = std::make_unique<DbInstancePrivate>(self);
     Q_EMIT self->dataUpdated();
 }
@@ -182,7 +185,7 @@ bool DbInstance::tryOpenDatabase()
         return true;
     }
     if (openRetries < lastRetry)
-        QTimer::singleShot(openRetryMs, this, &DbInstance::tryOpenDatabase);
+        QTimer::singleShot(openRetryMs, this, SLOT(tryOpenDatabase()));
     else
         Q_EMIT dbOpenedNok();
     return false;
@@ -201,13 +204,9 @@ void DbInstance::threadedInit()
     d->initRunning.store(true, std::memory_order_release);
     // What other processes change meanwhile stays out of the calendar that the worker owns.
     d->storage->holdNotices();
-    d->initFuture = QtConcurrent::run([database = d.get(), forCalendar = d->user == CalendarUser] {
-        if (forCalendar)
-            database->preloadCalendar();
-        else
-            database->preloadJournals();
-        database->storage->releaseNotices();
-    });
+    const auto preload = d->user == CalendarUser ? &DbInstancePrivate::preloadCalendar
+                                                 : &DbInstancePrivate::preloadJournals;
+    d->initFuture = QtConcurrent::run(d.get(), preload);
     d->initWatcher.setFuture(d->initFuture);
 }
 

@@ -44,7 +44,11 @@ void DbInstancePrivate::finishPreload()
 {
     enabled.store(true, std::memory_order_release);
     Q_EMIT q->dataUpdated();
-    initRunning.store(false, std::memory_order_release);
+    // Last: who sees it cleared may delete everything that the worker used.
+    if (initRunning.load(std::memory_order_acquire)) {
+        storage->releaseNotices();
+        initRunning.store(false, std::memory_order_release);
+    }
 }
 
 void DbInstance::load(const QDate &date)
@@ -134,7 +138,7 @@ QSharedPointer<KCalCore::Incidence> DbInstance::incidence(const QString &uid,
         return {};
     tryOpenDatabase();
     d->waitForPreload();
-    if (const auto known = d->calendar->incidence(uid, recurrenceId))
+    if (auto known = d->calendar->incidence(uid, recurrenceId))
         return known;
     d->storage->load(uid, recurrenceId);
     return d->calendar->incidence(uid, recurrenceId);

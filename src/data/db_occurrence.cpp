@@ -24,7 +24,7 @@ qint64 durationSeconds(const KCalCore::Incidence &incidence)
 } // namespace
 
 QDateTime DbInstance::incidenceRecurrenceStart(QSharedPointer<KCalCore::Incidence> &incidence,
-                                               QDateTime time)
+                                               const QDateTime &time)
 {
     if (!incidence)
         return {};
@@ -34,13 +34,13 @@ QDateTime DbInstance::incidenceRecurrenceStart(QSharedPointer<KCalCore::Incidenc
 }
 
 QDateTime DbInstance::incidenceEndTime(QSharedPointer<KCalCore::Incidence> &incidence,
-                                       QDateTime time, bool endOfDay)
+                                       const QDateTime &time, bool endOfDay)
 {
     const QDateTime start = incidenceRecurrenceStart(incidence, time);
     if (!start.isValid())
         return {};
     const QDateTime local = time.toLocalTime();
-    const QDateTime end = local.addSecs(durationSeconds(*incidence) - start.secsTo(local));
+    QDateTime end = local.addSecs(durationSeconds(*incidence) - start.secsTo(local));
     if (end.date() == local.date())
         return end;
     const QDateTime midnight = end.date().startOfDay();

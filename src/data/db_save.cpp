@@ -55,7 +55,7 @@ void DbInstance::updateNotebook(const QSharedPointer<mKCal::Notebook> &notebook)
         return;
     if (d->initRunning.load(std::memory_order_acquire)) {
         d->pendingNotebook = notebook;
-        QTimer::singleShot(firstDeferralMs, this, &DbInstance::updateNotebookAsync);
+        QTimer::singleShot(firstDeferralMs, this, SLOT(updateNotebookAsync()));
         return;
     }
     d->storage->updateNotebook(notebook);
@@ -67,7 +67,7 @@ void DbInstance::updateNotebookAsync()
     if (!d)
         return;
     if (d->initRunning.load(std::memory_order_acquire) && deferrals < maxDeferrals) {
-        QTimer::singleShot(furtherDeferralMs, this, &DbInstance::updateNotebookAsync);
+        QTimer::singleShot(furtherDeferralMs, this, SLOT(updateNotebookAsync()));
         ++deferrals;
         return;
     }

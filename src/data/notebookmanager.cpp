@@ -146,7 +146,7 @@ bool NotebookManager::deleteNotebook(const QSharedPointer<Notebook> &notebook)
     return deleted;
 }
 
-bool NotebookManager::setIncidenceNotebook(QSharedPointer<KCalCore::Incidence> incidence,
+bool NotebookManager::setIncidenceNotebook(const QSharedPointer<KCalCore::Incidence> &incidence,
                                            const QString &uid)
 {
     const auto notebook = getNotebook(uid);

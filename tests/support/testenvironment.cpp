@@ -31,7 +31,7 @@ TestEnvironment::~TestEnvironment()
 
 void TestEnvironment::setToday(const QDate &today)
 {
-    const QDateTime noon = QDateTime(today, QTime(12, 0), KSystemTimeZones::local()).toUTC();
+    QDateTime noon = QDateTime(today, QTime(12, 0), KSystemTimeZones::local()).toUTC();
     KCalCompat::Clock::setSource([noon] { return noon; });
 }
 

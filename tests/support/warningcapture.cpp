@@ -10,7 +10,7 @@ namespace
 struct Captured {
     std::mutex mutex;
     QStringList warnings;
-    QtMessageHandler next = nullptr;
+    QtMessageHandler next = [](QtMsgType, const QMessageLogContext &, const QString &) {};
 };
 
 Captured &captured()
