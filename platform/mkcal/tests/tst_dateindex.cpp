@@ -38,7 +38,7 @@ QStringList found(const DateIndex &index, Msecs from, Msecs to)
 }
 } // namespace
 
-class tst_dateindex : public QObject
+class TestDateIndex : public QObject
 {
     Q_OBJECT
 
@@ -50,7 +50,7 @@ private Q_SLOTS:
     void sameAsSearchingAll();
 };
 
-void tst_dateindex::overlap_data()
+void TestDateIndex::overlap_data()
 {
     QTest::addColumn<Msecs>("start");
     QTest::addColumn<Msecs>("end");
@@ -68,7 +68,7 @@ void tst_dateindex::overlap_data()
     QTest::newRow("longer, over before") << -900 * hour << 100 * hour << false;
 }
 
-void tst_dateindex::overlap()
+void TestDateIndex::overlap()
 {
     QFETCH(Msecs, start);
     QFETCH(Msecs, end);
@@ -88,7 +88,7 @@ void tst_dateindex::overlap()
     QVERIFY(found(index, 100 * hour, 110 * hour).isEmpty());
 }
 
-void tst_dateindex::wallAndMoment()
+void TestDateIndex::wallAndMoment()
 {
     DateIndex index;
     DateIndex::Entry wall = entry("wall", 100 * hour, 124 * hour);
@@ -102,7 +102,7 @@ void tst_dateindex::wallAndMoment()
     QCOMPARE(uids, QStringList("wall"));
 }
 
-void tst_dateindex::undatedComesLast()
+void TestDateIndex::undatedComesLast()
 {
     DateIndex index;
     DateIndex::Entry undated = entry("a", 0, 0);
@@ -115,7 +115,7 @@ void tst_dateindex::undatedComesLast()
     QCOMPARE(all, QStringList({"b", "a"}));
 }
 
-void tst_dateindex::sameAsSearchingAll()
+void TestDateIndex::sameAsSearchingAll()
 {
     QRandomGenerator random(7);
     DateIndex index;
@@ -149,5 +149,5 @@ void tst_dateindex::sameAsSearchingAll()
     }
 }
 
-QTEST_GUILESS_MAIN(tst_dateindex)
+QTEST_GUILESS_MAIN(TestDateIndex)
 #include "tst_dateindex.moc"

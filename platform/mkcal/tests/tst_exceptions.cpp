@@ -10,7 +10,12 @@ namespace
 {
 using Calendar = ExtendedCalendar;
 using Build = void (*)(Calendar &);
+} // namespace
 
+Q_DECLARE_METATYPE(Build)
+
+namespace
+{
 KCalCore::Event::Ptr weekly()
 {
     return recurring(newEvent("a", "2011-05-02T10:00", "2011-05-02T11:00"), "FREQ=WEEKLY;COUNT=5");
@@ -34,30 +39,9 @@ void addFromThere(Calendar &calendar, const KCalCore::Event::Ptr &exception)
     exception->setThisAndFuture(true);
     calendar.addEvent(exception);
 }
-} // namespace
 
-Q_DECLARE_METATYPE(Build)
-
-/// What stands in for single occurrences of a series.
-class tst_exceptions : public QObject
+void addMovedRows()
 {
-    Q_OBJECT
-
-private Q_SLOTS:
-    void expanded_data();
-    void expanded();
-    void handedOver();
-    void textsOfLaterOnes();
-    void rangesFollowThem();
-};
-
-void tst_exceptions::expanded_data()
-{
-    QTest::addColumn<Build>("build");
-    QTest::addColumn<QString>("from");
-    QTest::addColumn<QString>("to");
-    QTest::addColumn<QStringList>("expected");
-
     const Build moved = [](Calendar &c) {
         const auto series = weekly();
         c.addEvent(series);
@@ -82,6 +66,10 @@ void tst_exceptions::expanded_data()
            })
         << "2011-08-01"
         << "2011-08-02" << QStringList{"a 2011-08-01 15:00 > 2011-08-01 17:00"};
+}
+
+void addSingleRows()
+{
     QTest::newRow("cancelled") << Build([](Calendar &c) {
         const auto series = weekly();
         c.addEvent(series);
@@ -100,6 +88,10 @@ void tst_exceptions::expanded_data()
            })
         << "2011-05-16"
         << "2011-05-17" << QStringList{"a 2011-05-16 12:00 > 2011-05-16 13:00"};
+}
+
+void addFromThereRows()
+{
     QTest::newRow("from there on") << Build([](Calendar &c) {
         const auto series = weekly();
         c.addEvent(series);
@@ -146,6 +138,10 @@ void tst_exceptions::expanded_data()
                "a 2011-05-01 00:00 > 2011-05-02 00:00", "a 2011-05-02 00:00 > 2011-05-03 00:00",
                "a 2011-05-05 20:00 > 2011-05-05 21:00", "a 2011-05-06 20:00 > 2011-05-06 21:00",
                "a 2011-05-13 00:00 > 2011-05-15 00:00", "a 2011-05-14 00:00 > 2011-05-16 00:00"};
+}
+
+void addIdentifierRows()
+{
     QTest::newRow("instead of starts that the clock skips, zoned and floating")
         << Build([](Calendar &c) {
                for (const QByteArray &zone : {QByteArray("Europe/Helsinki"), QByteArray()}) {
@@ -181,8 +177,35 @@ void tst_exceptions::expanded_data()
                        "a 2011-05-20 00:00 > 2011-05-21 00:00",
                        "a 2011-05-21 00:00 > 2011-05-22 00:00"};
 }
+} // namespace
 
-void tst_exceptions::expanded()
+/// What stands in for single occurrences of a series.
+class TestExceptions : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void expanded_data();
+    void expanded();
+    void handedOver();
+    void textsOfLaterOnes();
+    void rangesFollowThem();
+};
+
+void TestExceptions::expanded_data()
+{
+    QTest::addColumn<Build>("build");
+    QTest::addColumn<QString>("from");
+    QTest::addColumn<QString>("to");
+    QTest::addColumn<QStringList>("expected");
+
+    addMovedRows();
+    addSingleRows();
+    addFromThereRows();
+    addIdentifierRows();
+}
+
+void TestExceptions::expanded()
 {
     QFETCH(Build, build);
     QFETCH(QString, from);
@@ -192,7 +215,7 @@ void tst_exceptions::expanded()
     QTEST(agenda(calendar, from, to), "expected");
 }
 
-void tst_exceptions::handedOver()
+void TestExceptions::handedOver()
 {
     const ExtendedCalendar calendar{QTimeZone("Europe/Helsinki")};
     const auto series = weekly();
@@ -213,7 +236,7 @@ void tst_exceptions::handedOver()
     QCOMPARE(shown(stale.expandRecurrences(&both, from, to, 10)), expected);
 }
 
-void tst_exceptions::textsOfLaterOnes()
+void TestExceptions::textsOfLaterOnes()
 {
     ExtendedCalendar calendar{QTimeZone("Europe/Helsinki")};
     const auto series = weekly();
@@ -228,7 +251,7 @@ void tst_exceptions::textsOfLaterOnes()
     QCOMPARE(expanded.first().second, KCalCore::Incidence::Ptr(changed));
 }
 
-void tst_exceptions::rangesFollowThem()
+void TestExceptions::rangesFollowThem()
 {
     ExtendedCalendar calendar{QTimeZone("Europe/Helsinki")};
     const auto series = weekly();
@@ -242,5 +265,5 @@ void tst_exceptions::rangesFollowThem()
     QVERIFY(calendar.rawEvents(lastDay, lastDay).isEmpty());
 }
 
-CALENDAR_TEST_MAIN(tst_exceptions, "Europe/Helsinki")
+CALENDAR_TEST_MAIN(TestExceptions, "Europe/Helsinki")
 #include "tst_exceptions.moc"

@@ -10,7 +10,12 @@ namespace
 {
 using Calendar = ExtendedCalendar;
 using Build = void (*)(Calendar &);
+} // namespace
 
+Q_DECLARE_METATYPE(Build)
+
+namespace
+{
 KCalCore::Event::Ptr meeting(const QString &rule,
                              const QString &start = QStringLiteral("2011-05-02T10:00"))
 {
@@ -23,33 +28,8 @@ KCalCore::Event::Ptr days(const QString &rule, const QString &start, const QStri
     return recurring(newEvent(QStringLiteral("a"), start, end), rule);
 }
 
-} // namespace
-
-Q_DECLARE_METATYPE(Build)
-
-class tst_expansion : public QObject
+void addClockChangeRows()
 {
-    Q_OBJECT
-
-private Q_SLOTS:
-    void occurrences_data();
-    void occurrences();
-    void otherZones_data();
-    void otherZones();
-    void timeSpecOfResults();
-    void ends_data();
-    void ends();
-    void previous_data();
-    void previous();
-};
-
-void tst_expansion::occurrences_data()
-{
-    QTest::addColumn<Build>("build");
-    QTest::addColumn<QString>("from");
-    QTest::addColumn<QString>("to");
-    QTest::addColumn<QStringList>("expected");
-
     QTest::newRow("daily over the clock change keeps the wall clock")
         << Build([](Calendar &c) { c.addEvent(meeting("FREQ=DAILY", "2011-03-20T10:00")); })
         << "2011-03-26"
@@ -99,6 +79,10 @@ void tst_expansion::occurrences_data()
         << Build([](Calendar &c) { c.addEvent(days("FREQ=DAILY", "2011-10-01", "2011-10-02")); })
         << "2011-10-30"
         << "2011-10-31" << QStringList{"a 2011-10-30 00:00 > 2011-10-31 00:00"};
+}
+
+void addWindowRows()
+{
     QTest::newRow("began before the window") << Build([](Calendar &c) {
         c.addEvent(recurring(newEvent("a", "2011-05-01T22:00", "2011-05-04T06:00"), "FREQ=WEEKLY"));
     }) << "2011-05-11"
@@ -127,6 +111,10 @@ void tst_expansion::occurrences_data()
         << "2011-05-04"
         << QStringList{"instant 2011-05-03 00:00 > 2011-05-03 00:00",
                        "a 2011-05-03 23:00 > 2011-05-04 00:00"};
+}
+
+void addRuleRows()
+{
     QTest::newRow("excluded dates count towards COUNT")
         << Build([](Calendar &c) {
                const auto series = meeting("FREQ=DAILY;COUNT=4");
@@ -151,6 +139,10 @@ void tst_expansion::occurrences_data()
                             << "2011-05-20"
                             << QStringList{"a 2011-05-03 10:00 > 2011-05-03 11:00",
                                            "a 2011-05-05 10:00 > 2011-05-05 11:00"};
+}
+
+void addDateRows()
+{
     QTest::newRow("several RDATEs, one before the start, one with an end of its own")
         << Build([](Calendar &c) {
                const auto series = meeting("FREQ=DAILY;COUNT=1");
@@ -192,6 +184,10 @@ void tst_expansion::occurrences_data()
         << Build([](Calendar &c) { c.addEvent(meeting("FREQ=DAILY;UNTIL=20110401T000000Z")); })
         << "2011-03-01"
         << "2011-05-20" << QStringList{"a 2011-05-02 10:00 > 2011-05-02 11:00"};
+}
+
+void addLengthRows()
+{
     QTest::newRow("a nominal duration keeps the wall clock")
         << Build([](Calendar &c) {
                const auto trip = newEvent("a", "2011-03-26T12:00");
@@ -203,6 +199,10 @@ void tst_expansion::occurrences_data()
     QTest::newRow("all-day without an end lasts its day")
         << Build([](Calendar &c) { c.addEvent(newEvent("a", "2011-05-02")); }) << "2011-05-01"
         << "2011-05-05" << QStringList{"a 2011-05-02 00:00 > 2011-05-03 00:00"};
+}
+
+void addTodoRows()
+{
     QTest::newRow("a to-do is on its due date, with or without a start")
         << Build([](Calendar &c) {
                const auto both = newTodo("both", "2011-05-05T18:00");
@@ -230,6 +230,10 @@ void tst_expansion::occurrences_data()
         << QStringList{"a 2011-03-26 18:00 > 2011-03-26 18:00",
                        "a 2011-03-27 18:00 > 2011-03-27 18:00",
                        "a 2011-03-28 18:00 > 2011-03-28 18:00"};
+}
+
+void addZoneRows()
+{
     QTest::newRow("a series of another zone")
         << Build([](Calendar &c) {
                c.addEvent(recurring(
@@ -241,6 +245,10 @@ void tst_expansion::occurrences_data()
         << QStringList{
                "a 2011-03-08 16:00 > 2011-03-08 17:00", "a 2011-03-15 15:00 > 2011-03-15 16:00",
                "a 2011-03-22 15:00 > 2011-03-22 16:00", "a 2011-03-29 16:00 > 2011-03-29 17:00"};
+}
+
+void addOrderRows()
+{
     QTest::newRow("ordered by start, end and UID")
         << Build([](Calendar &c) {
                c.addEvent(newEvent("c", "2011-05-02T10:00", "2011-05-02T11:00"));
@@ -254,8 +262,42 @@ void tst_expansion::occurrences_data()
                "d 2011-05-01 10:00 > 2011-05-05 12:00", "a 2011-05-02 10:00 > 2011-05-02 11:00",
                "c 2011-05-02 10:00 > 2011-05-02 11:00", "b 2011-05-02 10:00 > 2011-05-02 12:00"};
 }
+} // namespace
 
-void tst_expansion::occurrences()
+class TestExpansion : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void occurrences_data();
+    void occurrences();
+    void otherZones_data();
+    void otherZones();
+    void timeSpecOfResults();
+    void ends_data();
+    void ends();
+    void previous_data();
+    void previous();
+};
+
+void TestExpansion::occurrences_data()
+{
+    QTest::addColumn<Build>("build");
+    QTest::addColumn<QString>("from");
+    QTest::addColumn<QString>("to");
+    QTest::addColumn<QStringList>("expected");
+
+    addClockChangeRows();
+    addWindowRows();
+    addRuleRows();
+    addDateRows();
+    addLengthRows();
+    addTodoRows();
+    addZoneRows();
+    addOrderRows();
+}
+
+void TestExpansion::occurrences()
 {
     QFETCH(Build, build);
     QFETCH(QString, from);
@@ -265,7 +307,7 @@ void tst_expansion::occurrences()
     QTEST(agenda(calendar, from, to), "expected");
 }
 
-void tst_expansion::otherZones_data()
+void TestExpansion::otherZones_data()
 {
     QTest::addColumn<QByteArray>("zone");
     QTest::addColumn<Build>("build");
@@ -312,7 +354,7 @@ void tst_expansion::otherZones_data()
                        "a 2011-10-03 02:10 > 2011-10-03 02:20"};
 }
 
-void tst_expansion::otherZones()
+void TestExpansion::otherZones()
 {
     QFETCH(QByteArray, zone);
     QFETCH(Build, build);
@@ -323,7 +365,7 @@ void tst_expansion::otherZones()
     QTEST(agenda(calendar, from, to), "expected");
 }
 
-void tst_expansion::timeSpecOfResults()
+void TestExpansion::timeSpecOfResults()
 {
     const auto utcMeeting =
         recurring(newEvent("a", "2011-05-02T10:00", "2011-05-02T11:00", "UTC"), "FREQ=DAILY");
@@ -344,7 +386,7 @@ void tst_expansion::timeSpecOfResults()
     QCOMPARE(inTokyo.first().first.dtEnd.time(), QTime(20, 0));
 }
 
-void tst_expansion::ends_data()
+void TestExpansion::ends_data()
 {
     QTest::addColumn<KCalCore::Incidence::Ptr>("incidence");
     QTest::addColumn<QDateTime>("start");
@@ -374,7 +416,7 @@ void tst_expansion::ends_data()
                            << at("2011-03-28T18:00");
 }
 
-void tst_expansion::ends()
+void TestExpansion::ends()
 {
     QFETCH(KCalCore::Incidence::Ptr, incidence);
     QFETCH(QDateTime, start);
@@ -383,7 +425,7 @@ void tst_expansion::ends()
     QCOMPARE(mKCal::occurrenceEnd(incidence, start).timeSpec(), end.timeSpec());
 }
 
-void tst_expansion::previous_data()
+void TestExpansion::previous_data()
 {
     QTest::addColumn<KCalCore::Incidence::Ptr>("incidence");
     QTest::addColumn<QDateTime>("time");
@@ -418,12 +460,12 @@ void tst_expansion::previous_data()
         << Pointer(newEvent("a", "2011-05-01T10:00")) << at("2011-06-01") << at("2011-05-01T10:00");
 }
 
-void tst_expansion::previous()
+void TestExpansion::previous()
 {
     QFETCH(KCalCore::Incidence::Ptr, incidence);
     QFETCH(QDateTime, time);
     QTEST(mKCal::previousOccurrence(incidence, time), "expected");
 }
 
-CALENDAR_TEST_MAIN(tst_expansion, "Europe/Helsinki")
+CALENDAR_TEST_MAIN(TestExpansion, "Europe/Helsinki")
 #include "tst_expansion.moc"

@@ -7,7 +7,7 @@ using namespace CalendarScene;
 using mKCal::ExtendedCalendar;
 
 /// Caps, rules beyond reason, and the pieces of what lasts over midnight.
-class tst_expansionlimits : public QObject
+class TestExpansionLimits : public QObject
 {
     Q_OBJECT
 
@@ -25,7 +25,7 @@ private:
     const ExtendedCalendar m_calendar{QTimeZone("Europe/Helsinki")};
 };
 
-void tst_expansionlimits::cap_data()
+void TestExpansionLimits::cap_data()
 {
     QTest::addColumn<int>("cap");
     QTest::addColumn<int>("expected");
@@ -37,7 +37,7 @@ void tst_expansionlimits::cap_data()
     QTest::newRow("none") << 0 << 2 << true;
 }
 
-void tst_expansionlimits::cap()
+void TestExpansionLimits::cap()
 {
     QFETCH(int, cap);
     QFETCH(bool, isHit);
@@ -57,7 +57,7 @@ void tst_expansionlimits::cap()
     QVERIFY(wasHit);
 }
 
-void tst_expansionlimits::absurdRules_data()
+void TestExpansionLimits::absurdRules_data()
 {
     QTest::addColumn<QString>("rule");
     QTest::addColumn<QString>("start");
@@ -86,7 +86,7 @@ void tst_expansionlimits::absurdRules_data()
         << "2011-05-02T08:00" << 5;
 }
 
-void tst_expansionlimits::absurdRules()
+void TestExpansionLimits::absurdRules()
 {
     QFETCH(QString, rule);
     QFETCH(QString, start);
@@ -102,7 +102,7 @@ void tst_expansionlimits::absurdRules()
     QVERIFY(expanded.size() <= 2000);
 }
 
-void tst_expansionlimits::pieces_data()
+void TestExpansionLimits::pieces_data()
 {
     QTest::addColumn<QString>("start");
     QTest::addColumn<QString>("end");
@@ -137,7 +137,7 @@ void tst_expansionlimits::pieces_data()
         << "2011-05-01T03:00" << true << QStringList{"a 2011-05-01 00:00 > 2011-05-01 03:00"};
 }
 
-void tst_expansionlimits::pieces()
+void TestExpansionLimits::pieces()
 {
     QFETCH(QString, start);
     QFETCH(QString, end);
@@ -150,7 +150,7 @@ void tst_expansionlimits::pieces()
     QTEST(shown(pieces), "expected");
 }
 
-void tst_expansionlimits::capOfPieces()
+void TestExpansionLimits::capOfPieces()
 {
     KCalCore::Incidence::List list{
         recurring(newEvent("a", "2011-05-01T12:00", "2011-05-02T12:00"), "FREQ=DAILY"),
@@ -172,7 +172,7 @@ void tst_expansionlimits::capOfPieces()
             "trip 2011-05-03 00:00 > 2011-05-04 00:00"}));
 }
 
-void tst_expansionlimits::seam()
+void TestExpansionLimits::seam()
 {
     // Two windows that meet: what runs over the seam is in both, cut there into pieces once each.
     KCalCore::Incidence::List list{newEvent("a", "2011-05-02T20:00", "2011-05-03T04:00"),
@@ -190,5 +190,5 @@ void tst_expansionlimits::seam()
                           "a 2011-05-03 00:00 > 2011-05-03 04:00"}));
 }
 
-CALENDAR_TEST_MAIN(tst_expansionlimits, "Europe/Helsinki")
+CALENDAR_TEST_MAIN(TestExpansionLimits, "Europe/Helsinki")
 #include "tst_expansionlimits.moc"

@@ -56,7 +56,7 @@ KCalCore::Event::Ptr moved(const KCalCore::Event::Ptr &series)
 }
 } // namespace
 
-class tst_extendedcalendar : public QObject
+class TestExtendedCalendar : public QObject
 {
     Q_OBJECT
 
@@ -91,7 +91,7 @@ private:
     std::unique_ptr<Observer> m_observer;
 };
 
-void tst_extendedcalendar::init()
+void TestExtendedCalendar::init()
 {
     m_calendar = std::make_unique<ExtendedCalendar>(QTimeZone("Europe/Helsinki"));
     for (const char *uid : {"home", "work"}) {
@@ -101,13 +101,13 @@ void tst_extendedcalendar::init()
     m_observer = std::make_unique<Observer>(*m_calendar);
 }
 
-void tst_extendedcalendar::cleanup()
+void TestExtendedCalendar::cleanup()
 {
     m_observer.reset();
     m_calendar.reset();
 }
 
-void tst_extendedcalendar::days_data()
+void TestExtendedCalendar::days_data()
 {
     QTest::addColumn<KCalCore::Incidence::Ptr>("incidence");
     QTest::addColumn<QList<int>>("daysOfMay");
@@ -136,7 +136,7 @@ void tst_extendedcalendar::days_data()
         recurring(newTodo("a", "2011-05-02T10:00"), "FREQ=DAILY;INTERVAL=2;COUNT=2"), {2, 4});
 }
 
-void tst_extendedcalendar::days()
+void TestExtendedCalendar::days()
 {
     QFETCH(KCalCore::Incidence::Ptr, incidence);
     QVERIFY(m_calendar->addIncidence(incidence));
@@ -155,7 +155,7 @@ void tst_extendedcalendar::days()
     QVERIFY(m_calendar->incidences(QDate(2010, 1, 1), QDate(2010, 12, 31)).isEmpty());
 }
 
-void tst_extendedcalendar::queriesOfOneDay()
+void TestExtendedCalendar::queriesOfOneDay()
 {
     m_calendar->addEvent(newEvent("event", "2011-05-03", "2011-05-04"));
     m_calendar->addTodo(newTodo("todo", "2011-05-03"));
@@ -175,7 +175,7 @@ void tst_extendedcalendar::queriesOfOneDay()
     QCOMPARE(uids(m_calendar->rawEvents(QDate(), day)), QStringList({"long", "event"}));
 }
 
-void tst_extendedcalendar::queryInAnotherZone()
+void TestExtendedCalendar::queryInAnotherZone()
 {
     m_calendar->addEvent(newEvent("late", "2011-05-03T23:00", "2011-05-03T23:30"));
     m_calendar->addEvent(newEvent("day", "2011-05-03", "2011-05-04"));
@@ -187,7 +187,7 @@ void tst_extendedcalendar::queryInAnotherZone()
     QCOMPARE(uids(m_calendar->rawEventsForDate(fourth, tokyo)), QStringList("late"));
 }
 
-void tst_extendedcalendar::order()
+void TestExtendedCalendar::order()
 {
     for (const char *uid : {"d", "b", "c", "a"}) {
         m_calendar->addEvent(newEvent(uid, "2011-05-03T10:00", "2011-05-03T11:00"));
@@ -204,7 +204,7 @@ void tst_extendedcalendar::order()
              QStringList({"long", "series", "shorter", "a", "b", "d", "undated"}));
 }
 
-void tst_extendedcalendar::sortFields()
+void TestExtendedCalendar::sortFields()
 {
     const auto b = newEvent("b", "2011-05-03T10:00", "2011-05-03T12:00");
     b->setSummary("1", false);
@@ -221,7 +221,7 @@ void tst_extendedcalendar::sortFields()
              QStringList({"b", "a"}));
 }
 
-void tst_extendedcalendar::edits()
+void TestExtendedCalendar::edits()
 {
     const auto event = newEvent("a", "2011-05-03T10:00", "2011-05-03T12:00");
     const QDateTime modified(QDate(2011, 1, 1), QTime(0, 0), Qt::UTC);
@@ -246,7 +246,7 @@ void tst_extendedcalendar::edits()
     QVERIFY(m_calendar->rawEvents().isEmpty());
 }
 
-void tst_extendedcalendar::ungroupedRecurrenceEdits()
+void TestExtendedCalendar::ungroupedRecurrenceEdits()
 {
     const auto event = newEvent("a", "2011-05-03T10:00", "2011-05-03T12:00");
     m_calendar->addEvent(event);
@@ -263,7 +263,7 @@ void tst_extendedcalendar::ungroupedRecurrenceEdits()
     QVERIFY(m_calendar->events(QDate(2011, 5, 3)).isEmpty());
 }
 
-void tst_extendedcalendar::exceptionEdits()
+void TestExtendedCalendar::exceptionEdits()
 {
     const auto series = weekly("a");
     const auto exception = moved(series);
@@ -279,7 +279,7 @@ void tst_extendedcalendar::exceptionEdits()
     QVERIFY(m_calendar->events(QDate(2011, 5, 16)).isEmpty());
 }
 
-void tst_extendedcalendar::timeZoneChange()
+void TestExtendedCalendar::timeZoneChange()
 {
     m_calendar->addEvent(newEvent("day", "2011-05-03", "2011-05-04"));
     m_calendar->addEvent(newEvent("floating", "2011-05-03T23:00", "2011-05-03T23:30", ""));
@@ -289,7 +289,7 @@ void tst_extendedcalendar::timeZoneChange()
     QCOMPARE(uids(m_calendar->events(QDate(2011, 5, 4))), QStringList("moment"));
 }
 
-void tst_extendedcalendar::lookUp_data()
+void TestExtendedCalendar::lookUp_data()
 {
     QTest::addColumn<KDateTime>("recurrenceId");
     QTest::addColumn<bool>("isAllDay");
@@ -310,7 +310,7 @@ void tst_extendedcalendar::lookUp_data()
     QTest::newRow("all-day, another date") << KDateTime(QDate(2011, 5, 17)) << true << false;
 }
 
-void tst_extendedcalendar::lookUp()
+void TestExtendedCalendar::lookUp()
 {
     QFETCH(KDateTime, recurrenceId);
     QFETCH(bool, isAllDay);
@@ -331,7 +331,7 @@ void tst_extendedcalendar::lookUp()
     QVERIFY(!m_calendar->todo("a"));
 }
 
-void tst_extendedcalendar::replacing()
+void TestExtendedCalendar::replacing()
 {
     const auto first = newEvent("a", "2011-05-03T10:00", "2011-05-03T11:00");
     QVERIFY(m_calendar->addEvent(first, "work"));
@@ -354,7 +354,7 @@ void tst_extendedcalendar::replacing()
     QVERIFY(m_observer->take().isEmpty());
 }
 
-void tst_extendedcalendar::replacingSeriesKeepsExceptions()
+void TestExtendedCalendar::replacingSeriesKeepsExceptions()
 {
     const auto series = weekly("a");
     const auto exception = moved(series);
@@ -370,7 +370,7 @@ void tst_extendedcalendar::replacingSeriesKeepsExceptions()
     QCOMPARE(uids(m_calendar->events(QDate(2011, 5, 18))), QStringList("a"));
 }
 
-void tst_extendedcalendar::deleting()
+void TestExtendedCalendar::deleting()
 {
     const auto series = weekly("a");
     m_calendar->addEvent(series, "work");
@@ -390,7 +390,7 @@ void tst_extendedcalendar::deleting()
     QCOMPARE(m_calendar->notebook(series), QStringLiteral("home"));
 }
 
-void tst_extendedcalendar::relationsStayAsTheyAre()
+void TestExtendedCalendar::relationsStayAsTheyAre()
 {
     const auto parent = newTodo("parent", "2011-05-03");
     const auto child = newTodo("child", "2011-05-03");
@@ -403,7 +403,7 @@ void tst_extendedcalendar::relationsStayAsTheyAre()
     QCOMPARE(child->relatedTo(), QStringLiteral("parent"));
 }
 
-void tst_extendedcalendar::readOnlyAndForeign()
+void TestExtendedCalendar::readOnlyAndForeign()
 {
     ExtendedCalendar other{QTimeZone("Europe/Helsinki")};
     const auto foreign = newEvent("a", "2011-05-03T10:00");
@@ -414,7 +414,7 @@ void tst_extendedcalendar::readOnlyAndForeign()
     QVERIFY(m_calendar->notebook(foreign).isEmpty());
 }
 
-void tst_extendedcalendar::notebooks()
+void TestExtendedCalendar::notebooks()
 {
     QCOMPARE(m_calendar->notebooks(), QStringList({"home", "work"}));
     QVERIFY(!m_calendar->addNotebook("home", true));
@@ -433,7 +433,7 @@ void tst_extendedcalendar::notebooks()
     QVERIFY(m_calendar->hasValidNotebook("work"));
 }
 
-void tst_extendedcalendar::notebookMoves()
+void TestExtendedCalendar::notebookMoves()
 {
     const auto series = weekly("a");
     const auto exception = moved(series);
@@ -454,7 +454,7 @@ void tst_extendedcalendar::notebookMoves()
     QCOMPARE(m_observer->take(), QStringList({"~a@home", "~a!@home"}));
 }
 
-void tst_extendedcalendar::deletedNotebook()
+void TestExtendedCalendar::deletedNotebook()
 {
     const auto series = weekly("a");
     m_calendar->addEvent(series);
@@ -472,7 +472,7 @@ void tst_extendedcalendar::deletedNotebook()
     QVERIFY(m_observer->take().isEmpty());
 }
 
-void tst_extendedcalendar::closing()
+void TestExtendedCalendar::closing()
 {
     const auto event = newEvent("a", "2011-05-03T10:00");
     m_calendar->addEvent(event);
@@ -483,5 +483,5 @@ void tst_extendedcalendar::closing()
     QCOMPARE(m_calendar->events(QDate(2011, 5, 3)).size(), 1);
 }
 
-CALENDAR_TEST_MAIN(tst_extendedcalendar, "Europe/Helsinki")
+CALENDAR_TEST_MAIN(TestExtendedCalendar, "Europe/Helsinki")
 #include "tst_extendedcalendar.moc"

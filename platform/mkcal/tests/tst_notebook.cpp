@@ -18,7 +18,7 @@ using Change = void (*)(Notebook &);
 
 Q_DECLARE_METATYPE(Change)
 
-class tst_notebook : public QObject
+class TestNotebook : public QObject
 {
     Q_OBJECT
 
@@ -31,7 +31,7 @@ private Q_SLOTS:
     void allowed();
 };
 
-void tst_notebook::freshOnes()
+void TestNotebook::freshOnes()
 {
     const Notebook a;
     const Notebook b;
@@ -42,7 +42,7 @@ void tst_notebook::freshOnes()
     QVERIFY(!a.isShared() && !a.isReadOnly() && !a.isSynchronized() && !a.isHidden());
 }
 
-void tst_notebook::everyPropertyCounts_data()
+void TestNotebook::everyPropertyCounts_data()
 {
     QTest::addColumn<Change>("change");
 
@@ -73,7 +73,7 @@ void tst_notebook::everyPropertyCounts_data()
         [](Notebook &n) { n.setCustomProperty(QStringLiteral("k"), QStringLiteral("v")); });
 }
 
-void tst_notebook::everyPropertyCounts()
+void TestNotebook::everyPropertyCounts()
 {
     QFETCH(Change, change);
     const Notebook original(QStringLiteral("uid"), QStringLiteral("name"), {}, {}, false, true,
@@ -88,7 +88,7 @@ void tst_notebook::everyPropertyCounts()
     QCOMPARE(original.name(), QStringLiteral("name"));
 }
 
-void tst_notebook::customProperties()
+void TestNotebook::customProperties()
 {
     Notebook notebook;
     notebook.setCustomProperty(QStringLiteral("b"), QStringLiteral("2"));
@@ -99,7 +99,7 @@ void tst_notebook::customProperties()
     QCOMPARE(notebook.customPropertyKeys(), QStringList("a"));
 }
 
-void tst_notebook::allowed_data()
+void TestNotebook::allowed_data()
 {
     QTest::addColumn<Change>("change");
     QTest::addColumn<bool>("events");
@@ -117,7 +117,7 @@ void tst_notebook::allowed_data()
                                << false << false;
 }
 
-void tst_notebook::allowed()
+void TestNotebook::allowed()
 {
     QFETCH(Change, change);
     Notebook notebook;
@@ -128,5 +128,5 @@ void tst_notebook::allowed()
     QVERIFY(!notebook.incidenceAllowed({}));
 }
 
-QTEST_GUILESS_MAIN(tst_notebook)
+QTEST_GUILESS_MAIN(TestNotebook)
 #include "tst_notebook.moc"

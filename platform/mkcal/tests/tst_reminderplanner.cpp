@@ -12,7 +12,7 @@ using Family = KCalCore::Incidence::List;
 
 KCalCore::Alarm::Ptr alarm(const KCalCore::Incidence::Ptr &incidence)
 {
-    const KCalCore::Alarm::Ptr alarm = incidence->newAlarm();
+    KCalCore::Alarm::Ptr alarm = incidence->newAlarm();
     alarm->setDisplayAlarm(QStringLiteral("ring"));
     alarm->setEnabled(true);
     return alarm;
@@ -56,7 +56,7 @@ KCalCore::Event::Ptr cancelled(const KCalCore::Event::Ptr &event)
 
 KCalCore::Todo::Ptr task()
 {
-    const auto task = newTodo("a", "2011-05-02T18:00");
+    auto task = newTodo("a", "2011-05-02T18:00");
     task->setDtStart(at("2011-05-02T09:00"));
     return task;
 }
@@ -79,28 +79,14 @@ QStringList shown(const mKCal::ReminderList &reminders)
     }
     return lines;
 }
-} // namespace
 
-class tst_reminderplanner : public QObject
+void row(const char *name, const Family &family, const QStringList &expected)
 {
-    Q_OBJECT
+    QTest::newRow(name) << family << expected;
+}
 
-private Q_SLOTS:
-    void plan_data();
-    void plan();
-    void zone();
-    void fields();
-    void absurdRule();
-};
-
-void tst_reminderplanner::plan_data()
+void addTimeRows()
 {
-    QTest::addColumn<Family>("family");
-    QTest::addColumn<QStringList>("expected");
-    const auto row = [](const char *name, const Family &family, const QStringList &expected) {
-        QTest::newRow(name) << family << expected;
-    };
-
     row("before the start", {ringing(meeting(), -15)}, {"2011-05-02T06:45Z"});
     row("after the end", {ringingAtEnd(meeting(), 5)}, {"2011-05-02T08:05Z"});
     row("at a time of its own", {ringingOn(meeting(), at("2011-05-02T05:00", "UTC"))},
@@ -120,21 +106,28 @@ void tst_reminderplanner::plan_data()
         {"2011-05-02T07:00Z"});
     row("from the window's first moment, not its last",
         {ringing(ringing(newEvent("a", "2011-05-01"), 0), 60 * 24 * 365)}, {"2011-04-30T21:00Z"});
+}
+
+void addSilentRows()
+{
     row("not enabled", {[] {
-            const auto event = ringing(meeting(), -15);
+            auto event = ringing(meeting(), -15);
             event->alarms().constFirst()->setEnabled(false);
             return event;
         }()},
         {});
     row("only the first of repeated rings", {[] {
-            const auto event = ringing(meeting(), -15);
+            auto event = ringing(meeting(), -15);
             event->alarms().constFirst()->setRepeatCount(3);
             event->alarms().constFirst()->setSnoozeTime(KCalCore::Duration(300));
             return event;
         }()},
         {"2011-05-02T06:45Z"});
     row("cancelled", {cancelled(ringing(meeting(), -15))}, {});
+}
 
+void addTodoRows()
+{
     row("to-do with start and due date", {ringingAtEnd(ringing(task(), 0), 0)},
         {"2011-05-02T06:00Z", "2011-05-02T15:00Z#1"});
     row("to-do without a start", {ringing(newTodo("a", "2011-05-02T18:00"), -30)},
@@ -143,18 +136,21 @@ void tst_reminderplanner::plan_data()
     row("to-do without dates, at a time",
         {ringingOn(newTodo("a", {}), at("2011-05-02T05:00", "UTC"))}, {"2011-05-02T05:00Z"});
     row("completed", {[] {
-            const auto done = ringing(task(), 0);
+            auto done = ringing(task(), 0);
             done->setCompleted(true);
             return done;
         }()},
         {});
     row("recurring to-do, of which two are done", {[] {
-            const auto often = ringingAtEnd(recurring(task(), "FREQ=DAILY;COUNT=4"), -60);
+            auto often = ringingAtEnd(recurring(task(), "FREQ=DAILY;COUNT=4"), -60);
             often->setDtRecurrence(at("2011-05-04T09:00"));
             return often;
         }()},
         {"2011-05-04T14:00Z 05-04T09:00", "2011-05-05T14:00Z 05-05T09:00"});
+}
 
+void addSeriesRows()
+{
     row("each occurrence", {ringing(meeting("FREQ=DAILY;COUNT=3"), -15)},
         {"2011-05-02T06:45Z 05-02T10:00", "2011-05-03T06:45Z 05-03T10:00",
          "2011-05-04T06:45Z 05-04T10:00"});
@@ -182,8 +178,32 @@ void tst_reminderplanner::plan_data()
         {"2011-05-02T07:00Z 05-02T10:00", "2011-05-03T07:00Z 05-03T10:00",
          "2011-05-04T08:00Z 05-04T10:00", "2011-05-05T08:00Z 05-05T10:00"});
 }
+} // namespace
 
-void tst_reminderplanner::plan()
+class TestReminderPlanner : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void plan_data();
+    void plan();
+    void zone();
+    void fields();
+    void absurdRule();
+};
+
+void TestReminderPlanner::plan_data()
+{
+    QTest::addColumn<Family>("family");
+    QTest::addColumn<QStringList>("expected");
+
+    addTimeRows();
+    addSilentRows();
+    addTodoRows();
+    addSeriesRows();
+}
+
+void TestReminderPlanner::plan()
 {
     QFETCH(Family, family);
     QTEST(shown(mKCal::planReminders(family, QTimeZone("Europe/Helsinki"),
@@ -191,7 +211,7 @@ void tst_reminderplanner::plan()
           "expected");
 }
 
-void tst_reminderplanner::zone()
+void TestReminderPlanner::zone()
 {
     // All-day and floating ones ring by the clock of the zone that the device is in.
     const Family family{ringing(newEvent("a", "2011-05-02", "2011-05-03"), 480)};
@@ -200,7 +220,7 @@ void tst_reminderplanner::zone()
              QStringList("2011-05-02T12:00Z"));
 }
 
-void tst_reminderplanner::fields()
+void TestReminderPlanner::fields()
 {
     const Family family{ringing(meeting(), 0)};
     const QDateTime ring = at("2011-05-02T07:00", "UTC");
@@ -214,7 +234,7 @@ void tst_reminderplanner::fields()
                 .isEmpty());
 }
 
-void tst_reminderplanner::absurdRule()
+void TestReminderPlanner::absurdRule()
 {
     const Family family{ringingDaysBefore(ringing(meeting("FREQ=SECONDLY"), 0), 30)};
     const auto reminders = mKCal::planReminders(family, QTimeZone("Europe/Helsinki"),
@@ -223,5 +243,5 @@ void tst_reminderplanner::absurdRule()
     QVERIFY(reminders.size() <= 2001);
 }
 
-CALENDAR_TEST_MAIN(tst_reminderplanner, "Europe/Helsinki")
+CALENDAR_TEST_MAIN(TestReminderPlanner, "Europe/Helsinki")
 #include "tst_reminderplanner.moc"

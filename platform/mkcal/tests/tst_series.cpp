@@ -9,7 +9,12 @@ using mKCal::ExtendedCalendar;
 namespace
 {
 using Build = KCalCore::Incidence::Ptr (*)(ExtendedCalendar &);
+} // namespace
 
+Q_DECLARE_METATYPE(Build)
+
+namespace
+{
 KCalCore::Event::Ptr meeting(const QString &rule, const QString &start)
 {
     const QString end = at(start).addSecs(3600).toString(Qt::ISODate).left(16);
@@ -32,50 +37,15 @@ QStringList times(const ExtendedCalendar &calendar)
     }
     return lines;
 }
-} // namespace
 
-Q_DECLARE_METATYPE(Build)
-
-/// Cutting series and taking occurrences out of them.
-class tst_series : public QObject
+void row(const char *name, const KDateTime &cut, int later, Build build)
 {
-    Q_OBJECT
-
-private Q_SLOTS:
-    void init();
-    void split_data();
-    void split();
-    void splitParts();
-    void splitRefused_data();
-    void splitRefused();
-    void dissociate_data();
-    void dissociate();
-    void dissociateException();
-    void dissociateRefused();
-    void dissociateCarriesOn();
-
-private:
-    std::unique_ptr<ExtendedCalendar> m_calendar;
-};
-
-void tst_series::init()
-{
-    m_calendar = std::make_unique<ExtendedCalendar>(QTimeZone("Europe/Helsinki"));
-    QVERIFY(m_calendar->addNotebook("home", true));
-    QVERIFY(m_calendar->addNotebook("work", true));
-    QVERIFY(m_calendar->setDefaultNotebook("work"));
+    QTest::newRow(name) << build << cut << later;
 }
 
-void tst_series::split_data()
+void addRuleRows()
 {
-    QTest::addColumn<Build>("build");
-    QTest::addColumn<KDateTime>("cut");
-    QTest::addColumn<int>("later");
-
     const KDateTime inJune(at("2011-06-06T10:00"));
-    const auto row = [](const char *name, const KDateTime &cut, int later, Build build) {
-        QTest::newRow(name) << build << cut << later;
-    };
     row("endless, over both clock changes", inJune, 30, [](ExtendedCalendar &c) {
         return added(c, meeting("FREQ=WEEKLY;UNTIL=20111231T000000Z", "2011-03-07T10:00"));
     });
@@ -83,6 +53,11 @@ void tst_series::split_data()
         [](ExtendedCalendar &c) { return added(c, meeting("FREQ=WEEKLY", "2011-03-07T10:00")); });
     row("asked for in UTC", KDateTime(at("2011-06-06T07:00", "UTC")), 83,
         [](ExtendedCalendar &c) { return added(c, meeting("FREQ=WEEKLY", "2011-03-07T10:00")); });
+}
+
+void addCountRows()
+{
+    const KDateTime inJune(at("2011-06-06T10:00"));
     row("COUNT", inJune, 7, [](ExtendedCalendar &c) {
         return added(c, meeting("FREQ=WEEKLY;COUNT=20", "2011-03-07T10:00"));
     });
@@ -106,6 +81,10 @@ void tst_series::split_data()
     row("last day of the month", KDateTime(at("2011-05-31T10:00")), 20, [](ExtendedCalendar &c) {
         return added(c, meeting("FREQ=MONTHLY;BYMONTHDAY=-1", "2011-01-31T10:00"));
     });
+}
+
+void addClockRows()
+{
     row("all-day, over the short day", KDateTime(QDate(2011, 3, 27)), 5, [](ExtendedCalendar &c) {
         return added(
             c, recurring(newEvent("a", "2011-03-20", "2011-03-22"), "FREQ=DAILY;UNTIL=20110331"));
@@ -133,6 +112,10 @@ void tst_series::split_data()
                 recurring(newEvent("a", "2011-03-10T10:00", "2011-03-10T11:00", "America/New_York"),
                           "FREQ=DAILY;COUNT=10"));
         });
+}
+
+void addDateRows()
+{
     row("RDATEs and a period on both sides", KDateTime(at("2011-05-09T10:00")), 5,
         [](ExtendedCalendar &c) {
             const auto series = meeting("FREQ=WEEKLY;COUNT=4", "2011-05-02T10:00");
@@ -161,6 +144,10 @@ void tst_series::split_data()
         series->recurrence()->addExRule(rule);
         return added(c, series);
     });
+}
+
+void addExceptionRows()
+{
     row("exceptions moved over the cut, both ways", KDateTime(at("2011-05-16T10:00")), 3,
         [](ExtendedCalendar &c) {
             const auto series = meeting("FREQ=WEEKLY;COUNT=5", "2011-05-02T10:00");
@@ -196,8 +183,52 @@ void tst_series::split_data()
             return added(c, recurring(task, "FREQ=WEEKLY;COUNT=4"));
         });
 }
+} // namespace
 
-void tst_series::split()
+/// Cutting series and taking occurrences out of them.
+class TestSeries : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void split_data();
+    void split();
+    void splitParts();
+    void splitRefused_data();
+    void splitRefused();
+    void dissociate_data();
+    void dissociate();
+    void dissociateException();
+    void dissociateRefused();
+    void dissociateCarriesOn();
+
+private:
+    std::unique_ptr<ExtendedCalendar> m_calendar;
+};
+
+void TestSeries::init()
+{
+    m_calendar = std::make_unique<ExtendedCalendar>(QTimeZone("Europe/Helsinki"));
+    QVERIFY(m_calendar->addNotebook("home", true));
+    QVERIFY(m_calendar->addNotebook("work", true));
+    QVERIFY(m_calendar->setDefaultNotebook("work"));
+}
+
+void TestSeries::split_data()
+{
+    QTest::addColumn<Build>("build");
+    QTest::addColumn<KDateTime>("cut");
+    QTest::addColumn<int>("later");
+
+    addRuleRows();
+    addCountRows();
+    addClockRows();
+    addDateRows();
+    addExceptionRows();
+}
+
+void TestSeries::split()
 {
     QFETCH(Build, build);
     QFETCH(KDateTime, cut);
@@ -214,7 +245,7 @@ void tst_series::split()
     QTEST(times(*m_calendar).size(), "later");
 }
 
-void tst_series::splitParts()
+void TestSeries::splitParts()
 {
     const auto series = meeting("FREQ=WEEKLY;COUNT=20", "2011-03-07T10:00");
     series->setSummary("Choir", false);
@@ -229,7 +260,7 @@ void tst_series::splitParts()
             == KCalCore::Event::List{later.dynamicCast<KCalCore::Event>()});
 }
 
-void tst_series::splitRefused_data()
+void TestSeries::splitRefused_data()
 {
     QTest::addColumn<Build>("build");
     QTest::addColumn<KDateTime>("cut");
@@ -254,7 +285,7 @@ void tst_series::splitRefused_data()
     }) << KDateTime(at("2011-05-09T10:00"));
 }
 
-void tst_series::splitRefused()
+void TestSeries::splitRefused()
 {
     QFETCH(Build, build);
     QFETCH(KDateTime, cut);
@@ -264,7 +295,7 @@ void tst_series::splitRefused()
     QCOMPARE(times(*m_calendar), before);
 }
 
-void tst_series::dissociate_data()
+void TestSeries::dissociate_data()
 {
     QTest::addColumn<Build>("build");
     QTest::addColumn<KDateTime>("occurrence");
@@ -308,7 +339,7 @@ void tst_series::dissociate_data()
     });
 }
 
-void tst_series::dissociate()
+void TestSeries::dissociate()
 {
     QFETCH(Build, build);
     QFETCH(KDateTime, occurrence);
@@ -330,7 +361,7 @@ void tst_series::dissociate()
     QVERIFY(!m_calendar->dissociateSingleOccurrence(series, occurrence, occurrence.timeSpec()));
 }
 
-void tst_series::dissociateException()
+void TestSeries::dissociateException()
 {
     const auto series = meeting("FREQ=WEEKLY;COUNT=5", "2011-05-02T10:00");
     added(*m_calendar, series);
@@ -347,7 +378,7 @@ void tst_series::dissociateException()
     QVERIFY(!m_calendar->incidence("a", occurrence));
 }
 
-void tst_series::dissociateRefused()
+void TestSeries::dissociateRefused()
 {
     const auto series = meeting("FREQ=WEEKLY;COUNT=5", "2011-05-02T10:00");
     added(*m_calendar, series);
@@ -368,7 +399,7 @@ void tst_series::dissociateRefused()
     QCOMPARE(times(*m_calendar), before);
 }
 
-void tst_series::dissociateCarriesOn()
+void TestSeries::dissociateCarriesOn()
 {
     // What counts from an occurrence on goes on counting when that one is taken out.
     const auto series = meeting("FREQ=WEEKLY;COUNT=5", "2011-05-02T10:00");
@@ -383,5 +414,5 @@ void tst_series::dissociateCarriesOn()
     QCOMPARE(times(*m_calendar), before);
 }
 
-CALENDAR_TEST_MAIN(tst_series, "Europe/Helsinki")
+CALENDAR_TEST_MAIN(TestSeries, "Europe/Helsinki")
 #include "tst_series.moc"
