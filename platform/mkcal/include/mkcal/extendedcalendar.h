@@ -158,7 +158,8 @@ public:
 
     /// Cuts a series in two: @p incidence ends before @p firstLater, and the result, a new series
     /// with an own UID in the same notebook, goes on from there (its exceptions and excluded dates
-    /// with it). Null when there is no such occurrence or it is the first one.
+    /// with it). Null, and nothing changed, when there is no such occurrence, when it is the first
+    /// one, and when a rule counts its steps from a start that the later part would not have.
     KCalCore::Incidence::Ptr splitSeries(const KCalCore::Incidence::Ptr &incidence,
                                          const KDateTime &firstLater);
 
