@@ -42,7 +42,7 @@ QDateTime localDay(int year, int month, int day)
 
 Event::Ptr allDayEvent(const QString &uid, int days)
 {
-    const Event::Ptr event(new Event);
+    Event::Ptr event(new Event);
     event->setUid(uid);
     event->setDtStart(localDay(2026, 12, 7));
     event->setDtEnd(localDay(2026, 12, 7 + days));

@@ -19,7 +19,7 @@ using namespace KCalCore;
 
 namespace
 {
-constexpr int ShownOccurrences = 6;
+constexpr int shownOccurrences = 6;
 
 /// "2026-04-01T10:00:00 Europe/Helsinki", with Z for UTC and nothing for floating.
 QString text(const QDateTime &time, bool allDay = false)
@@ -54,7 +54,7 @@ QStringList occurrences(const Incidence &incidence)
 {
     QStringList result;
     QDateTime time = incidence.dtStart().addSecs(-1);
-    while (incidence.recurs() && result.size() < ShownOccurrences) {
+    while (incidence.recurs() && result.size() < shownOccurrences) {
         time = incidence.recurrence()->getNextDateTime(time);
         if (!time.isValid()) {
             break;

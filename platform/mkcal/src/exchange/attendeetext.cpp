@@ -18,28 +18,28 @@ using KCalCore::Attendee;
 
 namespace
 {
-const QByteArray MadeUpDomain = QByteArrayLiteral("@attendee.invalid");
+const QByteArray madeUpDomain = QByteArrayLiteral("@attendee.invalid");
 
 struct StatusName {
     int status;
     const char *name;
 };
-constexpr StatusName StatusNames[] = {
+constexpr StatusName statusNames[] = {
     {Attendee::None, "X-NONE"}, {8, "X-REMOVED"}, // taken out of the meeting, not yet told so
 };
 
 int statusOf(const QByteArray &name)
 {
-    const auto *row = std::find_if(std::begin(StatusNames), std::end(StatusNames),
+    const auto *row = std::find_if(std::begin(statusNames), std::end(statusNames),
                                    [&name](const StatusName &it) { return name == it.name; });
-    return row == std::end(StatusNames) ? 0 : row->status;
+    return row == std::end(statusNames) ? 0 : row->status;
 }
 
 QByteArray nameOf(int status)
 {
-    const auto *row = std::find_if(std::begin(StatusNames), std::end(StatusNames),
+    const auto *row = std::find_if(std::begin(statusNames), std::end(statusNames),
                                    [status](const StatusName &it) { return status == it.status; });
-    return row == std::end(StatusNames) ? QByteArray() : QByteArray(row->name);
+    return row == std::end(statusNames) ? QByteArray() : QByteArray(row->name);
 }
 
 bool startsLike(const QByteArray &text, const char *word)
@@ -54,17 +54,17 @@ bool needsDisguise(const QString &address, int status)
 
 QByteArray disguised(const QString &address, int status)
 {
-    return QByteArray::number(status) + '-' + address.toUtf8().toHex() + MadeUpDomain;
+    return QByteArray::number(status) + '-' + address.toUtf8().toHex() + madeUpDomain;
 }
 
 bool isDisguised(const QByteArray &address)
 {
-    return address.endsWith(MadeUpDomain) && address.indexOf('-') == 1;
+    return address.endsWith(madeUpDomain) && address.indexOf('-') == 1;
 }
 
 QString realAddress(const QByteArray &address)
 {
-    const int length = address.size() - MadeUpDomain.size() - 2;
+    const int length = address.size() - madeUpDomain.size() - 2;
     return QString::fromUtf8(QByteArray::fromHex(address.mid(2, length)));
 }
 

@@ -24,12 +24,12 @@ using KCalCore::Incidence;
 namespace
 {
 // Beyond some hundreds ICalFormat gets slower again.
-constexpr int BatchSize = 250;
+constexpr int batchSize = 250;
 
-const QByteArray Header = QByteArrayLiteral("BEGIN:VCALENDAR\r\n"
+const QByteArray header = QByteArrayLiteral("BEGIN:VCALENDAR\r\n"
                                             "VERSION:2.0\r\n"
                                             "PRODID:-//daskel//daskel 0.1//EN\r\n");
-const QByteArray Footer = QByteArrayLiteral("END:VCALENDAR\r\n");
+const QByteArray footer = QByteArrayLiteral("END:VCALENDAR\r\n");
 
 struct Written {
     QMap<QByteArray, QByteArray> timeZones; ///< by TZID
@@ -91,20 +91,20 @@ bool CalendarExporter::write(const Incidence::List &incidences, QIODevice *devic
 {
     m_errorMessage.clear();
     Written written;
-    for (int first = 0; first < incidences.size(); first += BatchSize) {
-        if (!writeBatch(incidences.mid(first, BatchSize), &written)) {
+    for (int first = 0; first < incidences.size(); first += batchSize) {
+        if (!writeBatch(incidences.mid(first, batchSize), &written)) {
             m_errorMessage = QStringLiteral("an incidence cannot be written as iCalendar");
             return false;
         }
     }
-    QByteArray text = Header;
+    QByteArray text = header;
     for (const QByteArray &timeZone : qAsConst(written.timeZones)) {
         text += timeZone;
     }
     for (const QByteArray &component : qAsConst(written.components)) {
         text += component;
     }
-    text += Footer;
+    text += footer;
     if (device->write(text) != text.size()) {
         m_errorMessage = device->errorString();
         return false;

@@ -13,7 +13,7 @@ namespace mKCal
 {
 namespace
 {
-constexpr qint64 CopySize = 64 * 1024;
+constexpr qint64 copySize = 64 * 1024;
 
 /// A pipe can be read only once, and an import reads twice: its content in a temporary file.
 std::unique_ptr<QIODevice> copyOf(QIODevice *pipe)
@@ -23,7 +23,7 @@ std::unique_ptr<QIODevice> copyOf(QIODevice *pipe)
         return copy;
     }
     for (;;) {
-        const QByteArray bytes = pipe->read(CopySize);
+        const QByteArray bytes = pipe->read(copySize);
         if (bytes.isEmpty() && !pipe->waitForReadyRead(-1)) {
             return copy;
         }

@@ -12,8 +12,8 @@ namespace mKCal
 {
 namespace
 {
-constexpr qint64 ChunkSize = 64 * 1024;
-constexpr int LongestMark = 4;
+constexpr qint64 chunkSize = 64 * 1024;
+constexpr int longestMark = 4;
 
 struct ByteOrderMark {
     QByteArray bytes;
@@ -98,10 +98,10 @@ bool CalendarText::fill()
     m_text.clear();
     m_position = 0;
     while (m_text.isEmpty()) {
-        const QByteArray chunk = m_device->read(ChunkSize);
+        const QByteArray chunk = m_device->read(chunkSize);
         m_bytesRead += chunk.size();
         m_raw += chunk;
-        if (m_unitSize == 0 && m_raw.size() < LongestMark && !chunk.isEmpty()) {
+        if (m_unitSize == 0 && m_raw.size() < longestMark && !chunk.isEmpty()) {
             continue;
         }
         if (m_unitSize == 0) {
@@ -126,7 +126,7 @@ QByteArray CalendarText::decoded(bool atEnd)
         const auto last = codeUnit<quint16>(m_raw.constData() + usable - 2, m_bigEndian);
         usable -= QChar::isHighSurrogate(last) ? 2 : 0;
     }
-    const QByteArray raw = m_raw.left(usable);
+    QByteArray raw = m_raw.left(usable);
     m_raw.remove(0, usable);
     if (m_unitSize == 1) {
         return raw;

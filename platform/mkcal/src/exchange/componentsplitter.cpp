@@ -15,7 +15,7 @@ namespace mKCal
 {
 namespace
 {
-constexpr int UsualLineLength = 1024;
+constexpr int usualLineLength = 1024;
 
 // These never stand inside another component, so that one of them ends whatever was left open:
 // a missing END costs one component, not the rest of the file.
@@ -31,7 +31,7 @@ struct NotedProperty {
     QByteArray CalendarComponent::*value;
 };
 
-constexpr NotedProperty NotedProperties[] = {
+constexpr NotedProperty notedProperties[] = {
     {"UID", &CalendarComponent::uid},           {"RECURRENCE-ID", &CalendarComponent::recurrenceId},
     {"SEQUENCE", &CalendarComponent::sequence}, {"DTSTAMP", &CalendarComponent::stamp},
     {"TZID", &CalendarComponent::timeZoneId},
@@ -73,8 +73,8 @@ QByteArray CalendarComponent::stableUid() const
 
 ComponentSplitter::ComponentSplitter(CalendarText *text) : m_text(text)
 {
-    m_line.reserve(UsualLineLength);
-    m_ahead.reserve(UsualLineLength);
+    m_line.reserve(usualLineLength);
+    m_ahead.reserve(usualLineLength);
 }
 
 bool ComponentSplitter::next(CalendarComponent *component)
@@ -177,7 +177,7 @@ void ComponentSplitter::noteProperty()
     if (m_open.size() > 1) {
         return;
     }
-    for (const NotedProperty &noted : NotedProperties) {
+    for (const NotedProperty &noted : notedProperties) {
         QByteArray &value = m_component->*noted.value;
         if (value.isEmpty() && ContentLine::isNamed(m_line, noted.name)) {
             value = ContentLine::value(m_line).trimmed();

@@ -11,7 +11,7 @@ namespace mKCal
 {
 namespace
 {
-constexpr int MaximumOctets = 75;
+constexpr int maximumOctets = 75;
 
 bool isContinuationByte(char c)
 {
@@ -71,9 +71,9 @@ QByteArray ContentLine::parameter(const QByteArray &line, const QByteArray &name
 QByteArray ContentLine::folded(const QByteArray &line)
 {
     QByteArray result;
-    result.reserve(line.size() + line.size() / MaximumOctets * 3 + 2);
+    result.reserve(line.size() + line.size() / maximumOctets * 3 + 2);
     int position = 0;
-    int room = MaximumOctets;
+    int room = maximumOctets;
     while (line.size() - position > room) {
         int length = room;
         while (length > 1 && isContinuationByte(line.at(position + length))) {
@@ -81,7 +81,7 @@ QByteArray ContentLine::folded(const QByteArray &line)
         }
         result.append(line.constData() + position, length).append("\r\n ");
         position += length;
-        room = MaximumOctets - 1;
+        room = maximumOctets - 1;
     }
     return result.append(line.constData() + position, line.size() - position).append("\r\n");
 }

@@ -25,8 +25,8 @@ using KCalCore::Todo;
 namespace
 {
 // RFC 5545 writes years with four digits; a later end comes from a DURATION without sense.
-constexpr int LastYear = 9999;
-constexpr int SecondsOfDay = 24 * 60 * 60;
+constexpr int lastYear = 9999;
+constexpr int secondsOfDay = 24 * 60 * 60;
 
 QDateTime dayStart(const QDate &date)
 {
@@ -102,7 +102,7 @@ struct NumberPart {
     bool countsFromTheEnd; ///< the same numbers below zero, too
 };
 
-constexpr NumberPart NumberParts[] = {
+constexpr NumberPart numberParts[] = {
     {&RecurrenceRule::bySeconds, &RecurrenceRule::setBySeconds, 0, 60, false},
     {&RecurrenceRule::byMinutes, &RecurrenceRule::setByMinutes, 0, 59, false},
     {&RecurrenceRule::byHours, &RecurrenceRule::setByHours, 0, 23, false},
@@ -118,7 +118,7 @@ constexpr NumberPart NumberParts[] = {
 /// of a part: such a rule has no occurrence, and without the part it would have too many.
 bool keepPossibleNumbers(RecurrenceRule *rule)
 {
-    for (const NumberPart &part : NumberParts) {
+    for (const NumberPart &part : numberParts) {
         const QList<int> &numbers = (rule->*part.numbers)();
         QList<int> kept;
         for (const int number : numbers) {
@@ -225,15 +225,15 @@ void readEventEnd(const Event::Ptr &event)
             const auto duration = event->duration();
             days = duration.isDaily()
                 ? duration.value()
-                : (qint64(duration.value()) + SecondsOfDay - 1) / SecondsOfDay;
+                : (qint64(duration.value()) + secondsOfDay - 1) / secondsOfDay;
         }
         const QDate end = start.date().addDays(std::max(days, qint64(1)));
         event->setDuration(KCalCore::Duration());
-        event->setDtEnd(dayStart(end.year() <= LastYear ? end : start.date().addDays(1)));
+        event->setDtEnd(dayStart(end.year() <= lastYear ? end : start.date().addDays(1)));
         return;
     }
     const QDateTime end = event->dtEnd();
-    if (!end.isValid() || end < start || end.date().year() > LastYear) {
+    if (!end.isValid() || end < start || end.date().year() > lastYear) {
         event->setDuration(KCalCore::Duration());
         event->setDtEnd(plainUtc(start));
     } else if (event->hasEndDate() && isZoneUtc(end)) {
@@ -284,7 +284,7 @@ void readAlarms(const Incidence::Ptr &incidence)
 
 Incidence::Ptr toICalendarConvention(const Incidence::Ptr &incidence)
 {
-    const Incidence::Ptr clone(incidence->clone());
+    Incidence::Ptr clone(incidence->clone());
     const auto event = clone.dynamicCast<Event>();
     if (event && event->allDay() && event->hasEndDate()) {
         const QDate lastDay = event->dtEnd().date().addDays(-1);

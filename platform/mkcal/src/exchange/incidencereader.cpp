@@ -24,13 +24,13 @@ using KCalCore::Incidence;
 namespace
 {
 // Beyond some hundreds ICalFormat gets slower again.
-constexpr int BatchSize = 250;
+constexpr int batchSize = 250;
 
 struct ExceptionText {
     Exception::ErrorCode code;
     const char *text;
 };
-constexpr ExceptionText ExceptionTexts[] = {
+constexpr ExceptionText exceptionTexts[] = {
     {Exception::ParseErrorIcal, "its lines are not iCalendar properties"},
     {Exception::LibICalError, "its lines are not iCalendar properties"},
     {Exception::ParseErrorUnableToParse, "its lines are not iCalendar properties"},
@@ -41,9 +41,9 @@ constexpr ExceptionText ExceptionTexts[] = {
 QString textOf(const Exception *exception)
 {
     const auto *row = std::find_if(
-        std::begin(ExceptionTexts), std::end(ExceptionTexts),
+        std::begin(exceptionTexts), std::end(exceptionTexts),
         [exception](const ExceptionText &it) { return exception && it.code == exception->code(); });
-    return row == std::end(ExceptionTexts) ? QStringLiteral("it cannot be read")
+    return row == std::end(exceptionTexts) ? QStringLiteral("it cannot be read")
                                            : QLatin1String(row->text);
 }
 
@@ -127,7 +127,7 @@ void IncidenceReader::add(const CalendarComponent &component, TimeZoneTexts &tim
 
 bool IncidenceReader::isFull() const
 {
-    return m_batch.size() >= BatchSize;
+    return m_batch.size() >= batchSize;
 }
 
 QVector<IncidenceReader::Result> IncidenceReader::take()

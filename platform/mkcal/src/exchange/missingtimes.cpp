@@ -16,18 +16,18 @@ namespace mKCal
 {
 namespace
 {
-constexpr int DateLength = 8;
+constexpr int dateLength = 8;
 
 /// The DATE or DATE-TIME that stands in a property's line; invalid when it is neither, and when its
 /// zone is not the system's.
 QDateTime timeOf(const QByteArray &line)
 {
     const QString value = QString::fromLatin1(ContentLine::value(line).trimmed());
-    const QDate date = QDate::fromString(value.left(DateLength), QStringLiteral("yyyyMMdd"));
-    if (value.size() == DateLength) {
+    const QDate date = QDate::fromString(value.left(dateLength), QStringLiteral("yyyyMMdd"));
+    if (value.size() == dateLength) {
         return date.startOfDay(Qt::LocalTime);
     }
-    const QTime time = QTime::fromString(value.mid(DateLength, 7), QStringLiteral("'T'HHmmss"));
+    const QTime time = QTime::fromString(value.mid(dateLength, 7), QStringLiteral("'T'HHmmss"));
     const QByteArray zoneName = ContentLine::parameter(line, "TZID");
     if (!date.isValid() || !time.isValid()) {
         return QDateTime();
@@ -44,7 +44,7 @@ QDateTime timeOf(const QByteArray &line)
 
 bool isDate(const QByteArray &line)
 {
-    return ContentLine::value(line).trimmed().size() == DateLength;
+    return ContentLine::value(line).trimmed().size() == dateLength;
 }
 } // namespace
 
@@ -54,7 +54,7 @@ QByteArray recurrenceIdentity(const CalendarComponent &component)
         return QByteArray();
     }
     const QDateTime time = timeOf(ContentLine::find(component.text, "RECURRENCE-ID"));
-    return time.isValid() && component.recurrenceId.size() > DateLength
+    return time.isValid() && component.recurrenceId.size() > dateLength
         ? time.toUTC().toString(Qt::ISODate).toLatin1()
         : component.recurrenceId;
 }

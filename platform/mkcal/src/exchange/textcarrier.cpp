@@ -19,29 +19,29 @@ const char *const TextCarrier::indexProperty = "X-DASKEL-COMPONENT";
 namespace
 {
 // A noncharacter of Unicode, which no text for interchange contains.
-const QByteArray CommaInside = QByteArrayLiteral("\xEF\xB7\x90");
-constexpr QChar CommaInsideCharacter(0xFDD0);
-constexpr QChar NoSummary(0xFDD1);
+const QByteArray commaInside = QByteArrayLiteral("\xEF\xB7\x90");
+constexpr QChar commaInsideCharacter(0xFDD0);
+constexpr QChar noSummary(0xFDD1);
 
-constexpr const char *ResourcesProperty = "X-DASKEL-RESOURCES";
-constexpr const char *CompletedProperty = "X-DASKEL-COMPLETED";
-const QByteArray HexParameter = QByteArrayLiteral("X-DASKEL-HEX=");
-const QByteArray RelatedPrefix = QByteArrayLiteral("X-DASKEL-RELATED-");
+constexpr const char *resourcesProperty = "X-DASKEL-RESOURCES";
+constexpr const char *completedProperty = "X-DASKEL-COMPLETED";
+const QByteArray hexParameter = QByteArrayLiteral("X-DASKEL-HEX=");
+const QByteArray relatedPrefix = QByteArrayLiteral("X-DASKEL-RELATED-");
 
-constexpr const char *CarriedProperties[] = {"RESOURCES", "CATEGORIES", "RELATED-TO", "COMPLETED"};
+constexpr const char *carriedProperties[] = {"RESOURCES", "CATEGORIES", "RELATED-TO", "COMPLETED"};
 
 struct RelationKind {
     const char *property;
     Incidence::RelType type;
 };
-constexpr RelationKind RelationKinds[] = {
+constexpr RelationKind relationKinds[] = {
     {"X-DASKEL-RELATED-PARENT", Incidence::RelTypeParent},
     {"X-DASKEL-RELATED-CHILD", Incidence::RelTypeChild},
     {"X-DASKEL-RELATED-SIBLING", Incidence::RelTypeSibling},
 };
 
-const QString DateTimeFormat = QStringLiteral("yyyyMMddTHHmmss");
-constexpr const char *UnknownCompletion = "19700101T000000Z";
+const QString dateTimeFormat = QStringLiteral("yyyyMMddTHHmmss");
+constexpr const char *unknownCompletionText = "19700101T000000Z";
 
 QDateTime unknownCompletion()
 {
@@ -55,7 +55,7 @@ QByteArray renamed(const QByteArray &line, const QByteArray &propertyName)
 
 QString takeProperty(const Incidence::Ptr &incidence, const char *property)
 {
-    const QString value = incidence->nonKDECustomProperty(property);
+    QString value = incidence->nonKDECustomProperty(property);
     if (!value.isEmpty()) {
         incidence->removeNonKDECustomProperty(property);
     }
@@ -64,24 +64,24 @@ QString takeProperty(const Incidence::Ptr &incidence, const char *property)
 
 QStringList commasBack(QStringList texts)
 {
-    return texts.replaceInStrings(CommaInsideCharacter, QStringLiteral(","));
+    return texts.replaceInStrings(commaInsideCharacter, QStringLiteral(","));
 }
 
 QStringList commasAway(QStringList texts)
 {
-    return texts.replaceInStrings(QStringLiteral(","), CommaInsideCharacter);
+    return texts.replaceInStrings(QStringLiteral(","), commaInsideCharacter);
 }
 
 /// ;A=b;C="d, e" becomes one parameter that has nothing to be quoted.
 QByteArray parametersAsHex(const QByteArray &parameters)
 {
-    return parameters.isEmpty() ? parameters : HexParameter + parameters.toHex();
+    return parameters.isEmpty() ? parameters : hexParameter + parameters.toHex();
 }
 
 QByteArray parametersFromHex(const QByteArray &parameter)
 {
-    return parameter.startsWith(HexParameter)
-        ? QByteArray::fromHex(parameter.mid(HexParameter.size()))
+    return parameter.startsWith(hexParameter)
+        ? QByteArray::fromHex(parameter.mid(hexParameter.size()))
         : parameter;
 }
 
@@ -117,7 +117,7 @@ QByteArray customPropertyBeforeReading(const QByteArray &line)
 
 QByteArray customPropertyAfterWriting(const QByteArray &line)
 {
-    const int start = line.indexOf(';' + HexParameter) + 1;
+    const int start = line.indexOf(';' + hexParameter) + 1;
     const int valueStart = ContentLine::valueStart(line);
     if (start == 0 || start > valueStart) {
         return line;
@@ -126,27 +126,28 @@ QByteArray customPropertyAfterWriting(const QByteArray &line)
         + line.mid(valueStart - 1);
 }
 
-QByteArray relationBeforeReading(QByteArray line, bool isJournal)
+QByteArray relationBeforeReading(const QByteArray &line, bool isJournal)
 {
     const QByteArray kind = ContentLine::parameter(line, "RELTYPE");
     const bool isParent = kind.isEmpty() || kind.toUpper() == "PARENT";
     if (isParent && !isJournal) {
         return line;
     }
-    line.replace(";RELTYPE=" + kind, QByteArray());
+    const QByteArray plain = QByteArray(line).replace(";RELTYPE=" + kind, QByteArray());
     return customPropertyBeforeReading(
-        renamed(line, RelatedPrefix + (isParent ? QByteArray("PARENT") : kind.toUpper())));
+        renamed(plain, relatedPrefix + (isParent ? QByteArray("PARENT") : kind.toUpper())));
 }
 
 /// The text of a list of texts: commas part them, semicolons are escaped, which ICalFormat omits.
-QByteArray listAfterWriting(QByteArray line)
+QByteArray listAfterWriting(const QByteArray &line)
 {
     const int start = ContentLine::valueStart(line);
     QByteArray value = line.mid(start);
     value.replace(';', "\\;");
-    value.replace(CommaInside, "\\,");
+    value.replace(commaInside, "\\,");
     return line.left(start) + value;
 }
+
 void copyRecurrence(const KCalCore::Recurrence &from, KCalCore::Recurrence *to)
 {
     for (const auto *rule : from.rRules()) {
@@ -175,9 +176,9 @@ QByteArray recurrenceIdAsDate(const QByteArray &line)
 /// UNTIL=20110501T070000Z as a local time.
 QByteArray floatingUntil(const QByteArray &part)
 {
-    QDateTime until = QDateTime::fromString(QString::fromLatin1(part.mid(6, 15)), DateTimeFormat);
+    QDateTime until = QDateTime::fromString(QString::fromLatin1(part.mid(6, 15)), dateTimeFormat);
     until.setTimeSpec(Qt::UTC);
-    return "UNTIL=" + until.toLocalTime().toString(DateTimeFormat).toLatin1();
+    return "UNTIL=" + until.toLocalTime().toString(dateTimeFormat).toLatin1();
 }
 
 /// BYHOUR=9,9,12,12 becomes BYHOUR=9,12, and a series of floating times has a floating end
@@ -218,10 +219,10 @@ QByteArray disguised(const QByteArray &component)
         if (depth > 1) {
             // Properties of an alarm are as they should be.
         } else if (name == "CATEGORIES") {
-            line.replace("\\,", CommaInside);
+            line.replace("\\,", commaInside);
         } else if (name == "RESOURCES") {
             resources += (resources.isEmpty() ? "" : ",")
-                + ContentLine::value(line).replace("\\,", CommaInside);
+                + ContentLine::value(line).replace("\\,", commaInside);
             continue;
         } else if (name == "RELATED-TO") {
             line = relationBeforeReading(line, isJournal);
@@ -230,7 +231,7 @@ QByteArray disguised(const QByteArray &component)
                 continue;
             }
         } else if (name == "COMPLETED" && recurs) {
-            line = renamed(line, CompletedProperty);
+            line = renamed(line, completedProperty);
         } else if (name == "ATTENDEE") {
             line = AttendeeText::beforeReading(line);
         } else if (isForeignProperty(line)) {
@@ -240,7 +241,7 @@ QByteArray disguised(const QByteArray &component)
     }
     // Several RESOURCES lines are one list, and a property of ours is kept but once.
     if (!resources.isEmpty()) {
-        result += QByteArray(ResourcesProperty) + ':' + resources + "\r\n";
+        result += QByteArray(resourcesProperty) + ':' + resources + "\r\n";
     }
     return result + end + "\r\n";
 }
@@ -254,7 +255,7 @@ bool TextCarrier::carries(const QByteArray &line)
     if (isForeignProperty(line)) {
         return line.left(line.indexOf(':')).contains(';');
     }
-    return std::any_of(std::begin(CarriedProperties), std::end(CarriedProperties),
+    return std::any_of(std::begin(carriedProperties), std::end(carriedProperties),
                        [&line](const char *name) { return ContentLine::isNamed(line, name); });
 }
 
@@ -268,7 +269,7 @@ void TextCarrier::beforeReading(CalendarComponent *component, int index)
         added += "UID:" + component->stableUid() + "\r\n";
     }
     if (!component->text.contains("\nSUMMARY")) {
-        added += "SUMMARY:" + QString(NoSummary).toUtf8() + "\r\n";
+        added += "SUMMARY:" + QString(noSummary).toUtf8() + "\r\n";
     }
     // At the end, where they prevail over properties of these names that are there already.
     component->text.insert(component->text.lastIndexOf("END:"), added);
@@ -276,27 +277,27 @@ void TextCarrier::beforeReading(CalendarComponent *component, int index)
 void TextCarrier::afterReading(const Incidence::Ptr &incidence)
 {
     incidence->removeNonKDECustomProperty(indexProperty);
-    if (incidence->summary() == NoSummary) {
+    if (incidence->summary() == noSummary) {
         incidence->setSummary(QString(), false);
     }
     AttendeeText::afterReading(incidence);
     convertParameters(incidence, parametersFromHex);
-    if (incidence->categories().join(QChar()).contains(CommaInsideCharacter)) {
+    if (incidence->categories().join(QChar()).contains(commaInsideCharacter)) {
         incidence->setCategories(commasBack(incidence->categories()));
     }
-    const QString resources = takeProperty(incidence, ResourcesProperty);
+    const QString resources = takeProperty(incidence, resourcesProperty);
     if (!resources.isEmpty()) {
         incidence->setResources(commasBack(resources.split(QLatin1Char(','))));
     }
-    for (const RelationKind &kind : RelationKinds) {
+    for (const RelationKind &kind : relationKinds) {
         const QString uid = takeProperty(incidence, kind.property);
         if (!uid.isEmpty()) {
             incidence->setRelatedTo(uid, kind.type);
         }
     }
-    const QString completed = takeProperty(incidence, CompletedProperty);
+    const QString completed = takeProperty(incidence, completedProperty);
     if (!completed.isEmpty()) {
-        QDateTime time = QDateTime::fromString(completed.left(15), DateTimeFormat);
+        QDateTime time = QDateTime::fromString(completed.left(15), dateTimeFormat);
         time.setTimeSpec(Qt::UTC);
         setCompletedForGood(incidence, time);
     }
@@ -308,10 +309,10 @@ void TextCarrier::beforeWriting(const Incidence::Ptr &clone)
     convertParameters(clone, parametersAsHex);
     clone->setCategories(commasAway(clone->categories()));
     if (!clone->resources().isEmpty()) {
-        clone->setNonKDECustomProperty(ResourcesProperty,
+        clone->setNonKDECustomProperty(resourcesProperty,
                                        commasAway(clone->resources()).join(QLatin1Char(',')));
     }
-    for (const RelationKind &kind : RelationKinds) {
+    for (const RelationKind &kind : relationKinds) {
         const QString uid = clone->relatedTo(kind.type);
         if (kind.type != Incidence::RelTypeParent && !uid.isEmpty()) {
             clone->setNonKDECustomProperty(kind.property, uid);
@@ -332,17 +333,17 @@ QByteArray TextCarrier::afterWriting(const QByteArray &component)
     const QList<QByteArray> lines = ContentLine::split(component);
     for (QByteArray line : lines) {
         const QByteArray name = ContentLine::name(line);
-        if (name == indexProperty || (name == "COMPLETED" && line.endsWith(UnknownCompletion))
+        if (name == indexProperty || (name == "COMPLETED" && line.endsWith(unknownCompletionText))
             || line == "X-KDE-KCALCORE-ENABLED:TRUE") {
             continue;
         }
         if (name == "CATEGORIES") {
             line = listAfterWriting(line);
-        } else if (name == ResourcesProperty) {
+        } else if (name == resourcesProperty) {
             line = listAfterWriting(renamed(line, "RESOURCES"));
-        } else if (name.startsWith(RelatedPrefix)) {
+        } else if (name.startsWith(relatedPrefix)) {
             line = renamed(customPropertyAfterWriting(line),
-                           "RELATED-TO;RELTYPE=" + name.mid(RelatedPrefix.size()));
+                           "RELATED-TO;RELTYPE=" + name.mid(relatedPrefix.size()));
         } else if (name == "RECURRENCE-ID" && isAllDay) {
             line = recurrenceIdAsDate(line);
         } else if (name == "RRULE" || name == "EXRULE") {

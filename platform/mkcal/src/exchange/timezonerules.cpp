@@ -16,14 +16,14 @@ namespace mKCal
 {
 namespace
 {
-constexpr int Hour = 3600;
-constexpr int WholeDay = 24 * Hour;
+constexpr int hour = 3600;
+constexpr int wholeDay = 24 * hour;
 
 /// "+0530", "-001521" in seconds.
 int offsetOf(const QByteArray &value)
 {
     const int seconds =
-        value.mid(1, 2).toInt() * Hour + value.mid(3, 2).toInt() * 60 + value.mid(5, 2).toInt();
+        value.mid(1, 2).toInt() * hour + value.mid(3, 2).toInt() * 60 + value.mid(5, 2).toInt();
     return value.startsWith('-') ? -seconds : seconds;
 }
 
@@ -37,7 +37,7 @@ QDateTime wallClock(const QByteArray &value)
 
 QByteArray fixedOffsetZone(int seconds)
 {
-    const QTime clock = QTime(0, 0).addSecs(std::abs(seconds) % WholeDay);
+    const QTime clock = QTime(0, 0).addSecs(std::abs(seconds) % wholeDay);
     const QByteArray name =
         (seconds < 0 ? "UTC-" : "UTC+") + clock.toString(QStringLiteral("HH:mm")).toLatin1();
     return QTimeZone(name).isValid() ? name : QByteArray();
@@ -149,8 +149,8 @@ QList<QDateTime> TimeZoneRules::tellingTimes(int year) const
     for (const Observance &observance : m_observances) {
         for (QDateTime change = observance.lastChange(end); change.isValid() && change > begin;
              change = observance.lastChange(change.addSecs(-1))) {
-            times.append(change.addSecs(-Hour));
-            times.append(change.addSecs(Hour));
+            times.append(change.addSecs(-hour));
+            times.append(change.addSecs(hour));
         }
     }
     return times;

@@ -15,7 +15,7 @@ namespace mKCal
 {
 namespace
 {
-const QByteArray TzidParameter = QByteArrayLiteral(";TZID=");
+const QByteArray tzidParameter = QByteArrayLiteral(";TZID=");
 
 /// QTimeZone takes any name that ends in a number for a POSIX rule: "Office 3" would be three hours
 /// west of Greenwich.
@@ -30,7 +30,7 @@ bool isSystemZone(const QByteArray &name)
 QByteArray zoneAtEndOfPath(const QByteArray &path)
 {
     for (int slash = path.indexOf('/'); slash >= 0; slash = path.indexOf('/', slash + 1)) {
-        const QByteArray rest = path.mid(slash + 1);
+        QByteArray rest = path.mid(slash + 1);
         if (isSystemZone(rest)) {
             return rest;
         }
@@ -48,8 +48,8 @@ void TimeZoneTexts::insert(const QByteArray &timeZoneId, const QByteArray &text)
 QMap<QByteArray, QByteArray> TimeZoneTexts::translate(QByteArray *component)
 {
     QMap<QByteArray, QByteArray> definitions;
-    int position = component->indexOf(TzidParameter);
-    for (; position >= 0; position = component->indexOf(TzidParameter, position + 1)) {
+    int position = component->indexOf(tzidParameter);
+    for (; position >= 0; position = component->indexOf(tzidParameter, position + 1)) {
         const int lineStart = component->lastIndexOf('\n', position) + 1;
         const int valueStart = ContentLine::valueStart(*component, lineStart);
         if (valueStart < position) {
@@ -59,7 +59,7 @@ QMap<QByteArray, QByteArray> TimeZoneTexts::translate(QByteArray *component)
         const QByteArray name = ContentLine::parameter(line, "TZID");
         const QByteArray known = systemName(name, component->mid(valueStart, 4).toInt());
         if (!known.isEmpty() && known != name) {
-            const int start = position + TzidParameter.size();
+            const int start = position + tzidParameter.size();
             const int quotes = component->at(start) == '"' ? 2 : 0;
             component->replace(start, name.size() + quotes, known);
         } else if (known.isEmpty() && m_texts.contains(name)) {
@@ -83,16 +83,16 @@ QByteArray TimeZoneTexts::findSystemName(const QByteArray &timeZoneId, int year)
     if (isSystemZone(timeZoneId)) {
         return timeZoneId;
     }
-    const QByteArray byWindowsName = QTimeZone::windowsIdToDefaultIanaId(timeZoneId);
+    QByteArray byWindowsName = QTimeZone::windowsIdToDefaultIanaId(timeZoneId);
     if (isSystemZone(byWindowsName)) {
         return byWindowsName;
     }
-    const QByteArray byPath = zoneAtEndOfPath(timeZoneId);
+    QByteArray byPath = zoneAtEndOfPath(timeZoneId);
     if (!byPath.isEmpty()) {
         return byPath;
     }
     const QByteArray definition = m_texts.value(timeZoneId);
-    const QByteArray location = ContentLine::value(ContentLine::find(definition, "X-LIC-LOCATION"));
+    QByteArray location = ContentLine::value(ContentLine::find(definition, "X-LIC-LOCATION"));
     if (isSystemZone(location)) {
         return location;
     }
