@@ -191,10 +191,10 @@ void TestCatalogue::passesOverADamagedCatalogue()
 void TestCatalogue::isInstalledOnce()
 {
     QVERIFY(Daskel::installLibraryCatalogue());
-    const auto installed = qApp->findChildren<QTranslator *>();
+    const auto installed = QCoreApplication::instance()->findChildren<QTranslator *>();
     QVERIFY(!installed.isEmpty());
     QVERIFY(Daskel::installLibraryCatalogue());
-    QCOMPARE(qApp->findChildren<QTranslator *>(), installed);
+    QCOMPARE(QCoreApplication::instance()->findChildren<QTranslator *>(), installed);
 }
 
 int main(int argc, char *argv[])
