@@ -4,6 +4,8 @@
 #ifndef MEMORYBULKWRITER_H
 #define MEMORYBULKWRITER_H
 
+#include "sqlite/componentkeys.h"
+
 #include <mkcal/bulkwriter.h>
 
 #include <QMap>
@@ -14,7 +16,7 @@ class MemoryBulkWriter : public mKCal::BulkWriter
 public:
     KCalCore::Incidence::Ptr find(const QString &uid, const KDateTime &recurrenceId) override
     {
-        const auto stored = m_incidences.value(key(uid, recurrenceId));
+        const auto stored = m_incidences.value(key(uid, mKCal::recIdText(recurrenceId)));
         return stored ? KCalCore::Incidence::Ptr(stored->clone()) : stored;
     }
     QString notebook(const QString &uid) override { return m_notebooks.value(uid); }
@@ -23,9 +25,7 @@ public:
         if (failing) {
             return false;
         }
-        KDateTime recurrenceId(incidence->recurrenceId());
-        recurrenceId.setDateOnly(incidence->allDay() && recurrenceId.isValid());
-        m_incidences.insert(key(incidence->uid(), recurrenceId),
+        m_incidences.insert(key(incidence->uid(), mKCal::recIdText(*incidence)),
                             KCalCore::Incidence::Ptr(incidence->clone()));
         m_notebooks.insert(incidence->uid(), notebookUid);
         ++written;
@@ -33,7 +33,7 @@ public:
     }
     bool remove(const QString &uid, const KDateTime &recurrenceId) override
     {
-        return m_incidences.remove(key(uid, recurrenceId)) > 0;
+        return m_incidences.remove(key(uid, mKCal::recIdText(recurrenceId))) > 0;
     }
     bool commit() override { return !failing; }
     QString errorMessage() const override
@@ -48,11 +48,9 @@ public:
     int written = 0;
 
 private:
-    static QString key(const QString &uid, const KDateTime &recurrenceId)
+    static QString key(const QString &uid, const QString &recurrenceId)
     {
-        return uid + QLatin1Char('\n')
-            + (recurrenceId.isDateOnly() ? recurrenceId.toString()
-                                         : recurrenceId.toUtc().toString());
+        return uid + QLatin1Char('\n') + recurrenceId;
     }
 
     QMap<QString, KCalCore::Incidence::Ptr> m_incidences;

@@ -40,13 +40,14 @@ QString faultText(const CalendarComponent &component)
     return QString();
 }
 
+/// A date where the occurrence is one. An all-day exception of a series with times keeps its time.
 KDateTime recurrenceIdOf(const Incidence::Ptr &incidence)
 {
-    const QDateTime recurrenceId = incidence->recurrenceId();
-    if (incidence->allDay() && recurrenceId.isValid()) {
-        return KDateTime(recurrenceId.date(), KDateTime::Spec::ClockTime());
+    KDateTime recurrenceId(incidence->recurrenceId());
+    if (incidence->allDay() && recurrenceId.isValid() && recurrenceId.time() == QTime(0, 0)) {
+        recurrenceId.setDateOnly(true);
     }
-    return KDateTime(recurrenceId);
+    return recurrenceId;
 }
 
 /// A device at its beginning; closed at the end when it was not open before.
@@ -216,6 +217,12 @@ bool IncidenceImport::store(const IncidenceReader::Result &result)
         skip(result.component, objection);
         return true;
     }
+    const IncidenceKey identity = IncidenceKey::of(*incidence);
+    if (m_taken.contains(identity)) {
+        skip(result.component, QStringLiteral("it has the identity of one before it"));
+        return true;
+    }
+    m_taken.insert(identity);
     for (const QString &loss : result.losses) {
         m_report->altered.append({m_sourceName, result.component.line, incidence->uid(), loss});
     }

@@ -7,10 +7,12 @@
 #include "componentsplitter.h"
 #include "importsurvey.h"
 #include "incidencereader.h"
+#include "storage/incidencekey.h"
 
 #include <mkcal/bulkwriter.h>
 #include <mkcal/calendarimporter.h>
 
+#include <QSet>
 #include <QVector>
 
 #include <functional>
@@ -59,6 +61,8 @@ private:
     QVector<Source> m_sources; ///< those that can be read
     ImportSurvey m_survey;
     IncidenceReader m_reader;
+    /// The survey sees text alone, and there are many ways to write one identity.
+    QSet<IncidenceKey> m_taken;
     QString m_sourceName;
     qint64 m_bytesTotal = 0;
     qint64 m_bytesBefore = 0; ///< of the sources that are done
