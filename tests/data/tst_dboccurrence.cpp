@@ -46,7 +46,7 @@ Incidence::Ptr nightShift()
 
 Incidence::Ptr withExtraDates()
 {
-    const auto event = meeting();
+    auto event = meeting();
     for (const int day : {5, 10, 15})
         event->recurrence()->addRDateTime(QDateTime(QDate(2011, 5, day), QTime(10, 0)));
     return event;
@@ -54,7 +54,7 @@ Incidence::Ptr withExtraDates()
 
 Incidence::Ptr withoutTheEleventh()
 {
-    const auto event = daily(meeting());
+    auto event = daily(meeting());
     event->recurrence()->addExDateTime(localTime("2011-03-11T10:00"));
     return event;
 }

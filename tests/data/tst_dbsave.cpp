@@ -46,7 +46,7 @@ private:
 
 mKCal::Notebook::Ptr named(const char *name)
 {
-    const auto notebook = mKCal::Notebook::Ptr::create();
+    auto notebook = mKCal::Notebook::Ptr::create();
     notebook->setName(QLatin1String(name));
     return notebook;
 }

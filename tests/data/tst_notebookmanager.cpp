@@ -20,7 +20,7 @@ const QString notesUid = QStringLiteral("66666666-7777-8888-9999-000000000000");
 
 Notebook::Ptr makeNotebook(const char *name)
 {
-    const auto notebook = Notebook::Ptr::create();
+    auto notebook = Notebook::Ptr::create();
     notebook->setUid(QLatin1String(name));
     notebook->setName(QLatin1String(name));
     return notebook;

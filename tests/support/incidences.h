@@ -26,7 +26,7 @@ inline QDate isoDate(const char *text)
 inline KCalCore::Event::Ptr makeEvent(const QString &uid, const QDateTime &start,
                                       const QDateTime &end)
 {
-    const auto event = KCalCore::Event::Ptr::create();
+    auto event = KCalCore::Event::Ptr::create();
     event->setUid(uid);
     event->setSummary(uid, false);
     event->setDtStart(start);
@@ -46,7 +46,7 @@ inline KCalCore::Event::Ptr makeAllDayEvent(const QString &uid, const QDate &sta
 /// Due at @p due, or without dates when that is null.
 inline KCalCore::Todo::Ptr makeTodo(const QString &uid, const QDateTime &due)
 {
-    const auto todo = KCalCore::Todo::Ptr::create();
+    auto todo = KCalCore::Todo::Ptr::create();
     todo->setUid(uid);
     todo->setSummary(uid, false);
     todo->setDtDue(due);
@@ -55,7 +55,7 @@ inline KCalCore::Todo::Ptr makeTodo(const QString &uid, const QDateTime &due)
 
 inline KCalCore::Journal::Ptr makeJournal(const QString &uid, const QDateTime &start)
 {
-    const auto journal = KCalCore::Journal::Ptr::create();
+    auto journal = KCalCore::Journal::Ptr::create();
     journal->setUid(uid);
     journal->setDtStart(start);
     return journal;
