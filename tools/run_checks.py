@@ -84,13 +84,15 @@ def check_sanitized(report, preset, *words):
 def check_lint(report, everything):
     folder = BUILD / "tidy"
     ok, log = output_of("cmake", "--preset", "tidy")
-    if ok:
+    sources = lint.compiled_sources(folder) if ok else []
+    if not everything:
+        sources = lint.to_lint(sources, lint.changed_files())
+    if sources:
         ok, log = lint.generate_moc_files(folder)
-    if not ok:
+    if ok:
+        lint.lint(report, folder, sources)
+    else:
         report.add("clang-tidy", False, log)
-        return
-    sources = lint.compiled_sources(folder)
-    lint.lint(report, folder, sources if everything else lint.to_lint(sources, lint.changed_files()))
 
 
 def flags_for_users(prefix):
