@@ -107,19 +107,20 @@ QList<QByteArray> ContentLine::split(const QByteArray &text)
     return lines;
 }
 
-QByteArray ContentLine::find(const QByteArray &component, const QByteArray &propertyName)
+QByteArray ContentLine::find(const QByteArray &component, const char *upperCaseName)
 {
     int depth = 0;
-    const QList<QByteArray> lines = split(component);
-    for (const QByteArray &line : lines) {
-        const QByteArray lineName = name(line);
-        if (lineName == "BEGIN") {
+    int start = 0;
+    for (int end = component.indexOf('\r'); end >= 0; end = component.indexOf('\r', start)) {
+        const QByteArray line = QByteArray::fromRawData(component.constData() + start, end - start);
+        if (isNamed(line, "BEGIN")) {
             ++depth;
-        } else if (lineName == "END") {
+        } else if (isNamed(line, "END")) {
             --depth;
-        } else if (depth == 1 && lineName == propertyName) {
-            return line;
+        } else if (depth == 1 && isNamed(line, upperCaseName)) {
+            return component.mid(start, end - start);
         }
+        start = end + 2;
     }
     return QByteArray();
 }

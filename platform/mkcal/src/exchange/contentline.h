@@ -33,7 +33,7 @@ bool isUtf8(const QByteArray &line);
 QList<QByteArray> split(const QByteArray &text);
 /// The first line of that property directly in the component (not in its alarms); empty when there
 /// is none. @param component unfolded text, from its BEGIN to its END.
-QByteArray find(const QByteArray &component, const QByteArray &propertyName);
+QByteArray find(const QByteArray &component, const char *upperCaseName);
 } // namespace ContentLine
 } // namespace mKCal
 

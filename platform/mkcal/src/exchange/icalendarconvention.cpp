@@ -35,7 +35,8 @@ QDateTime dayStart(const QDate &date)
 
 bool isZoneUtc(const QDateTime &time)
 {
-    return time.timeSpec() == Qt::TimeZone && time.timeZone().id() == "UTC";
+    return time.timeSpec() == Qt::TimeZone && time.offsetFromUtc() == 0
+        && time.timeZone().id() == "UTC";
 }
 
 /// ICalFormat reads a time that ends in Z into a zone called "UTC".

@@ -47,6 +47,38 @@ QString textOf(const Exception *exception)
                                            : QLatin1String(row->text);
 }
 
+/// Takes what ICalFormat reads, in the order of the text for each kind. A calendar would index it,
+/// and keep but one of two with the same identity.
+class ReadIncidences : public KCalCore::MemoryCalendar
+{
+public:
+    ReadIncidences() : KCalCore::MemoryCalendar(QTimeZone::systemTimeZone()) { }
+
+    bool addEvent(const KCalCore::Event::Ptr &event) override { return add("VEVENT", event); }
+    bool addTodo(const KCalCore::Todo::Ptr &todo) override { return add("VTODO", todo); }
+    bool addJournal(const KCalCore::Journal::Ptr &journal) override
+    {
+        return add("VJOURNAL", journal);
+    }
+
+    bool isEmpty() const { return m_incidences.isEmpty(); }
+    /// Null when there is no further one of that kind.
+    Incidence::Ptr takeNext(const QByteArray &componentName)
+    {
+        return m_incidences.value(componentName).value(m_taken[componentName]++);
+    }
+
+private:
+    bool add(const char *componentName, const Incidence::Ptr &incidence)
+    {
+        m_incidences[componentName].append(incidence);
+        return true;
+    }
+
+    QHash<QByteArray, Incidence::List> m_incidences;
+    QHash<QByteArray, int> m_taken;
+};
+
 QString quoted(const QByteArray &value)
 {
     constexpr int longest = 40;
@@ -117,7 +149,7 @@ void IncidenceReader::add(const CalendarComponent &component, TimeZoneTexts &tim
     Entry entry;
     entry.component = component;
     entry.timeZones = timeZones.translate(&entry.component.text);
-    TextCarrier::beforeReading(&entry.component, m_batch.size());
+    TextCarrier::beforeReading(&entry.component);
     for (auto it = entry.timeZones.cbegin(); it != entry.timeZones.cend(); ++it) {
         m_timeZonesDiffer |= m_timeZones.value(it.key(), it.value()) != it.value();
         m_timeZones.insert(it.key(), it.value());
@@ -133,20 +165,17 @@ bool IncidenceReader::isFull() const
 QVector<IncidenceReader::Result> IncidenceReader::take()
 {
     QVector<Result> results(m_batch.size());
-    QVector<Incidence::Ptr> incidences;
+    Incidence::List incidences;
     if (!m_timeZonesDiffer) {
         incidences = parse(m_batch.cbegin(), m_batch.cend(), nullptr);
     }
-    const bool isComplete = !incidences.isEmpty() && !incidences.contains(nullptr);
+    const bool isComplete = incidences.size() == m_batch.size();
     for (int i = 0; i < m_batch.size(); ++i) {
         Result &result = results[i];
         result.component = m_batch.at(i).component;
-        if (isComplete) {
-            result.incidence = incidences.at(i);
-        } else {
-            const Entry *entry = m_batch.cbegin() + i;
-            result.incidence = parse(entry, entry + 1, &result.reason).constFirst();
-        }
+        const Entry *entry = m_batch.cbegin() + i;
+        result.incidence =
+            isComplete ? incidences.at(i) : parse(entry, entry + 1, &result.reason).value(0);
         finish(&result);
     }
     m_batch.clear();
@@ -170,25 +199,25 @@ QByteArray IncidenceReader::calendarText(const Entry *begin, const Entry *end)
     return text + components + "END:VCALENDAR\r\n";
 }
 
-/// One incidence, null where there is none, for each entry. @param reason (may be null) why the
-/// first one is null.
-QVector<Incidence::Ptr> IncidenceReader::parse(const Entry *begin, const Entry *end,
-                                               QString *reason)
+/// One incidence for each entry; a list of another length when not all of them came out. @param
+/// reason (may be null) why there is none.
+Incidence::List IncidenceReader::parse(const Entry *begin, const Entry *end, QString *reason)
 {
-    const KCalCore::MemoryCalendar::Ptr scratch(
-        new KCalCore::MemoryCalendar(QTimeZone::systemTimeZone()));
+    const QSharedPointer<ReadIncidences> read(new ReadIncidences);
     KCalCore::ICalFormat format;
-    QVector<Incidence::Ptr> incidences(int(end - begin));
-    const bool isRead = format.fromRawString(scratch, calendarText(begin, end));
-    const Incidence::List read = isRead ? scratch->rawIncidences() : Incidence::List();
-    // From here on the incidences have no calendar that would follow their changes.
-    scratch->close();
-    for (const Incidence::Ptr &incidence : read) {
-        const int index = incidence->nonKDECustomProperty(TextCarrier::indexProperty).toInt();
-        incidences[incidences.size() == 1 ? 0 : index] = incidence;
+    if (!format.fromRawString(read, calendarText(begin, end)) || read->isEmpty()) {
+        if (reason) {
+            *reason = textOf(format.exception());
+        }
+        return Incidence::List();
     }
-    if (reason && !incidences.constFirst()) {
-        *reason = textOf(format.exception());
+    Incidence::List incidences;
+    for (const Entry *entry = begin; entry != end; ++entry) {
+        const Incidence::Ptr incidence = read->takeNext(entry->component.name);
+        if (!incidence) {
+            return Incidence::List();
+        }
+        incidences.append(incidence);
     }
     return incidences;
 }

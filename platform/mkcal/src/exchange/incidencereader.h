@@ -41,8 +41,7 @@ private:
     };
 
     static QByteArray calendarText(const Entry *begin, const Entry *end);
-    static QVector<KCalCore::Incidence::Ptr> parse(const Entry *begin, const Entry *end,
-                                                   QString *reason);
+    static KCalCore::Incidence::List parse(const Entry *begin, const Entry *end, QString *reason);
     static void finish(Result *result);
 
     QVector<Entry> m_batch;

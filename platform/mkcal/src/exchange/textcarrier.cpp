@@ -28,7 +28,7 @@ constexpr const char *completedProperty = "X-DASKEL-COMPLETED";
 const QByteArray hexParameter = QByteArrayLiteral("X-DASKEL-HEX=");
 const QByteArray relatedPrefix = QByteArrayLiteral("X-DASKEL-RELATED-");
 
-constexpr const char *carriedProperties[] = {"RESOURCES", "CATEGORIES", "RELATED-TO", "COMPLETED"};
+constexpr const char *carriedProperties[] = {"RESOURCES", "RELATED-TO", "COMPLETED"};
 
 struct RelationKind {
     const char *property;
@@ -252,6 +252,9 @@ bool TextCarrier::carries(const QByteArray &line)
     if (ContentLine::isNamed(line, "ATTENDEE")) {
         return AttendeeText::beforeReading(line) != line;
     }
+    if (ContentLine::isNamed(line, "CATEGORIES")) {
+        return line.contains("\\,");
+    }
     if (isForeignProperty(line)) {
         return line.left(line.indexOf(':')).contains(';');
     }
@@ -259,12 +262,12 @@ bool TextCarrier::carries(const QByteArray &line)
                        [&line](const char *name) { return ContentLine::isNamed(line, name); });
 }
 
-void TextCarrier::beforeReading(CalendarComponent *component, int index)
+void TextCarrier::beforeReading(CalendarComponent *component)
 {
     if (component->hasCarriedProperties) {
         component->text = disguised(component->text);
     }
-    QByteArray added = indexProperty + (':' + QByteArray::number(index)) + "\r\n";
+    QByteArray added;
     if (component->uid.isEmpty()) {
         added += "UID:" + component->stableUid() + "\r\n";
     }
@@ -276,7 +279,7 @@ void TextCarrier::beforeReading(CalendarComponent *component, int index)
 }
 void TextCarrier::afterReading(const Incidence::Ptr &incidence)
 {
-    incidence->removeNonKDECustomProperty(indexProperty);
+    takeProperty(incidence, indexProperty);
     if (incidence->summary() == noSummary) {
         incidence->setSummary(QString(), false);
     }

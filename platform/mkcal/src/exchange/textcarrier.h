@@ -29,8 +29,8 @@ namespace TextCarrier
 {
 /// Whether text with that property has to go through beforeReading().
 bool carries(const QByteArray &line);
-/// Changes the text of a component before ICalFormat reads it, and gives it @p index.
-void beforeReading(CalendarComponent *component, int index);
+/// Changes the text of a component before ICalFormat reads it.
+void beforeReading(CalendarComponent *component);
 /// Puts what was carried where it belongs in an incidence that was read.
 void afterReading(const KCalCore::Incidence::Ptr &incidence);
 /// Changes a clone before ICalFormat writes it.
@@ -38,7 +38,8 @@ void beforeWriting(const KCalCore::Incidence::Ptr &clone);
 /// The lines of the file from the unfolded text of a component that ICalFormat wrote; folded.
 QByteArray afterWriting(const QByteArray &component);
 
-/// The index that a component or clone is given to be known again on the other side of ICalFormat.
+/// A property for the number of a clone, to know it again in what ICalFormat wrote; left out of the
+/// file.
 extern const char *const indexProperty;
 } // namespace TextCarrier
 
