@@ -56,7 +56,7 @@ QByteArray contentOf(const QString &fileName)
 /// Root may do everything: for these faults the test is nobody for a while.
 Fault asNobody(mode_t folderMode, mode_t fileMode)
 {
-    constexpr uid_t Nobody = 65534;
+    constexpr uid_t nobody = 65534;
     const bool isRoot = geteuid() == 0;
     const QByteArray folderName = QFile::encodeName(folder());
     const QByteArray outerName = QFile::encodeName(QFileInfo(folder()).path());
@@ -65,11 +65,11 @@ Fault asNobody(mode_t folderMode, mode_t fileMode)
     for (const QFileInfo &name : names) {
         const QByteArray path = QFile::encodeName(name.filePath());
         chmod(path.constData(), fileMode);
-        if (isRoot && chown(path.constData(), Nobody, Nobody) != 0)
+        if (isRoot && chown(path.constData(), nobody, nobody) != 0)
             qFatal("cannot give the database away");
     }
     chmod(folderName.constData(), folderMode);
-    if (isRoot && (chown(folderName.constData(), Nobody, Nobody) != 0 || seteuid(Nobody) != 0))
+    if (isRoot && (chown(folderName.constData(), nobody, nobody) != 0 || seteuid(nobody) != 0))
         qFatal("cannot become nobody");
     return undoneBy([isRoot, folderName] {
         if (isRoot && seteuid(0) != 0)

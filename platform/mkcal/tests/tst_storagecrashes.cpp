@@ -14,7 +14,7 @@ using namespace mKCal;
 
 namespace
 {
-/// Saves one event after the other; see storageprocess.cpp. Every UID that it said is stored.
+/// saveCount one event after the other; see storageprocess.cpp. Every UID that it said is stored.
 class SavingProcess
 {
 public:
@@ -75,33 +75,33 @@ private Q_SLOTS:
 
 void TestStorageCrashes::fourWritersLoseNothing()
 {
-    constexpr int Writers = 4;
-    constexpr int Saves = 200;
+    constexpr int writerCount = 4;
+    constexpr int saveCount = 200;
     StorageFixture fixture;
     QVERIFY(fixture.store({Make::journal("first", Make::at(2026, 3, 1))}));
     std::vector<std::unique_ptr<SavingProcess>> writers;
-    for (int writer = 0; writer < Writers; ++writer) {
+    for (int writer = 0; writer < writerCount; ++writer) {
         const QByteArray prefix = QByteArray("writer") + char('a' + writer) + '-';
-        writers.push_back(std::make_unique<SavingProcess>(fixture.fileName(), Saves, prefix));
+        writers.push_back(std::make_unique<SavingProcess>(fixture.fileName(), saveCount, prefix));
     }
-    for (int writer = 0; writer < Writers; ++writer) {
+    for (int writer = 0; writer < writerCount; ++writer) {
         writers[size_t(writer)]->finish();
         const QByteArray prefix = QByteArray("writer") + char('a' + writer) + '-';
-        QCOMPARE(writers[size_t(writer)]->acknowledged(prefix).size(), Saves);
+        QCOMPARE(writers[size_t(writer)]->acknowledged(prefix).size(), saveCount);
     }
     const auto reader = fixture.open();
     QVERIFY(reader->storage->load());
-    QCOMPARE(reader->uids().size(), Writers * Saves + 1);
+    QCOMPARE(reader->uids().size(), writerCount * saveCount + 1);
     QVERIFY(checkDatabase(fixture.fileName()).intact);
 }
 
 void TestStorageCrashes::killedWritersLoseNothing()
 {
-    constexpr int Kills = 50;
+    constexpr int killCount = 50;
     StorageFixture fixture;
     QVERIFY(fixture.store({Make::journal("first", Make::at(2026, 3, 1))}));
     QStringList acknowledged;
-    for (int round = 0; round < Kills; ++round) {
+    for (int round = 0; round < killCount; ++round) {
         const QByteArray prefix = "round" + QByteArray::number(round) + '-';
         SavingProcess writer(fixture.fileName(), 100000, prefix);
         // "ready" and a varying number of saves; the kill then meets whatever it is doing.
@@ -113,7 +113,7 @@ void TestStorageCrashes::killedWritersLoseNothing()
     QVERIFY2(report.intact, qPrintable(report.problems.join(QLatin1Char('\n'))));
     const auto reader = fixture.open();
     QVERIFY(reader->storage->load());
-    QVERIFY(acknowledged.size() >= Kills);
+    QVERIFY(acknowledged.size() >= killCount);
     for (const QString &uid : qAsConst(acknowledged))
         QVERIFY2(reader->incidence(uid), qPrintable(uid));
 }
