@@ -51,36 +51,6 @@ QDateTime inZoneOf(const QDateTime &moment, const QDateTime &other)
         : KDateTime(moment).toTimeSpec(KDateTime(other).timeSpec()).dateTime();
 }
 
-/// By what the series names the occurrence that starts at @p occurrenceStart: RFC 5545, 3.8.4.4.
-KDateTime occurrenceIdentifier(const ExtendedCalendar &calendar,
-                               const KCalCore::Incidence::Ptr &incidence,
-                               const QDateTime &occurrenceStart)
-{
-    const bool goesOn =
-        incidence->recurs() || (incidence->hasRecurrenceId() && incidence->thisAndFuture());
-    if (!goesOn) {
-        return recurrenceIdentifier(calendar, incidence);
-    }
-    // To-dos are listed when they are due and named by when they start, exceptions for this and
-    // the future may have moved: by so much of the wall clock.
-    const QDateTime listed = listedTime(incidence);
-    const QDateTime ruled = ruledTime(incidence);
-    const auto onWall = [](const QDateTime &time) {
-        return QDateTime(time.date(), time.time(), Qt::UTC);
-    };
-    const qint64 shift = onWall(listed).secsTo(onWall(ruled));
-    QDateTime identifier =
-        incidence->allDay() ? occurrenceStart : inZoneOf(occurrenceStart, listed);
-    if (shift != 0) {
-        const QDateTime wall = onWall(identifier).addSecs(shift);
-        identifier =
-            QDateTime(wall.date(), wall.time(),
-                      ruled.timeSpec() == Qt::LocalTime ? identifier.timeZone() : ruled.timeZone());
-    }
-    return incidence->allDay() ? KDateTime(identifier.date(), KDateTime::Spec::ClockTime())
-                               : KDateTime(identifier);
-}
-
 /// The pieces of one occurrence, one for each day of the window.
 void appendPieces(const ExtendedCalendar &calendar,
                   const ExtendedCalendar::ExpandedIncidence &occurrence, Agenda *agenda)
@@ -89,10 +59,9 @@ void appendPieces(const ExtendedCalendar &calendar,
                                                 maxOccurrences, true);
     const auto &incidence = occurrence.second;
     for (const auto &piece : pieces) {
-        agenda->entries.append(
-            {incidence, calendar.notebook(incidence), piece.first.dtStart, piece.first.dtEnd,
-             occurrence.first.dtStart, occurrence.first.dtEnd,
-             occurrenceIdentifier(calendar, incidence, occurrence.first.dtStart)});
+        agenda->entries.append({incidence, calendar.notebook(incidence), piece.first.dtStart,
+                                piece.first.dtEnd, occurrence.first.dtStart,
+                                occurrence.first.dtEnd});
     }
 }
 
@@ -132,6 +101,34 @@ ExtendedCalendar::ExpandedIncidenceList expand(const ExtendedCalendar &calendar,
     return occurrences;
 }
 } // namespace
+
+KDateTime occurrenceIdentifier(const ExtendedCalendar &calendar, const AgendaEntry &entry)
+{
+    const auto &incidence = entry.incidence;
+    const bool goesOn =
+        incidence->recurs() || (incidence->hasRecurrenceId() && incidence->thisAndFuture());
+    if (!goesOn) {
+        return recurrenceIdentifier(calendar, incidence);
+    }
+    // To-dos are listed when they are due and named by when they start, exceptions for this and
+    // the future may have moved: by so much of the wall clock.
+    const QDateTime listed = listedTime(incidence);
+    const QDateTime ruled = ruledTime(incidence);
+    const auto onWall = [](const QDateTime &time) {
+        return QDateTime(time.date(), time.time(), Qt::UTC);
+    };
+    const qint64 shift = onWall(listed).secsTo(onWall(ruled));
+    QDateTime identifier =
+        incidence->allDay() ? entry.occurrenceStart : inZoneOf(entry.occurrenceStart, listed);
+    if (shift != 0) {
+        const QDateTime wall = onWall(identifier).addSecs(shift);
+        identifier =
+            QDateTime(wall.date(), wall.time(),
+                      ruled.timeSpec() == Qt::LocalTime ? identifier.timeZone() : ruled.timeZone());
+    }
+    return incidence->allDay() ? KDateTime(identifier.date(), KDateTime::Spec::ClockTime())
+                               : KDateTime(identifier);
+}
 
 int AgendaEntry::dayNumber() const
 {

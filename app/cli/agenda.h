@@ -21,7 +21,6 @@ struct AgendaEntry {
     QDateTime end;
     QDateTime occurrenceStart; ///< the whole occurrence
     QDateTime occurrenceEnd;
-    KDateTime recurrenceId; ///< which occurrence of its series; null when it does not recur
 
     /// Which day of the occurrence this is, from 1, and how many there are.
     int dayNumber() const;
@@ -40,6 +39,9 @@ struct Agenda {
 /// Reads the range from @p database in its calendar's time zone.
 Agenda readAgenda(const Database &database, const NotebookFilter &filter, const QDate &from,
                   const QDate &to);
+
+/// By what its series names the occurrence: RFC 5545, 3.8.4.4; null when it does not recur.
+KDateTime occurrenceIdentifier(const mKCal::ExtendedCalendar &calendar, const AgendaEntry &entry);
 
 /// Prints it as people read it, grouped by day.
 void printAgenda(const Agenda &agenda, const Database &database, Console &console);

@@ -136,7 +136,7 @@ ExitCode run(const QCommandLineParser &parser, Console &console)
     if (parser.isSet(jsonOption)) {
         QJsonArray array;
         for (const AgendaEntry &entry : agenda.entries) {
-            array.append(agendaEntryToJson(entry));
+            array.append(agendaEntryToJson(*database.calendar(), entry));
         }
         console.json(QJsonDocument(array));
     } else {

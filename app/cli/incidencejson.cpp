@@ -197,9 +197,10 @@ QJsonObject incidenceToJson(const Incidence::Ptr &incidence, const QString &note
             {QStringLiteral("allDay"), incidence->allDay()}};
 }
 
-QJsonObject agendaEntryToJson(const AgendaEntry &entry)
+QJsonObject agendaEntryToJson(const mKCal::ExtendedCalendar &calendar, const AgendaEntry &entry)
 {
-    QJsonObject object = incidenceToJson(entry.incidence, entry.notebook, entry.recurrenceId);
+    QJsonObject object =
+        incidenceToJson(entry.incidence, entry.notebook, occurrenceIdentifier(calendar, entry));
     const bool allDay = entry.incidence->allDay();
     object.insert(QStringLiteral("start"), isoText(entry.start, allDay));
     object.insert(QStringLiteral("end"), isoText(entry.end, allDay));

@@ -24,7 +24,7 @@ KDateTime recurrenceIdentifier(const mKCal::ExtendedCalendar &calendar,
 QJsonObject incidenceToJson(const KCalCore::Incidence::Ptr &incidence, const QString &notebookUid,
                             const KDateTime &recurrenceId);
 /// The same with start and end of the day's piece and of the whole occurrence; ends are exclusive.
-QJsonObject agendaEntryToJson(const AgendaEntry &entry);
+QJsonObject agendaEntryToJson(const mKCal::ExtendedCalendar &calendar, const AgendaEntry &entry);
 /// All that a person would want to know of one stored incidence, which is in @p calendar.
 QJsonObject incidenceDetailsToJson(const mKCal::ExtendedCalendar &calendar,
                                    const KCalCore::Incidence::Ptr &incidence);
