@@ -138,7 +138,7 @@ void ExtendedCalendarPrivate::index(const KCalCore::Incidence::Ptr &incidence, c
         entry.first = spanOf(*incidence, clock);
         entry.until = entry.first.end;
         if (entry.recurs) {
-            const TimeSpan alive = lifeOfSeries(*incidence, family.exceptions, clock);
+            const TimeSpan alive = lifeOfSeries(*incidence, entry.first, family.exceptions, clock);
             entry.first.start = alive.start;
             entry.until = alive.end;
         }

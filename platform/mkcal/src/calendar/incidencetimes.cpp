@@ -6,8 +6,28 @@
 #include <KCalendarCore/Event>
 #include <KCalendarCore/Todo>
 
+#include <optional>
+
 namespace mKCal
 {
+namespace
+{
+/// The span of an event that says both its moments, as most do: nothing is to be worked out then.
+std::optional<TimeSpan> momentsOf(const KCalCore::Incidence &incidence)
+{
+    if (incidence.type() != KCalCore::IncidenceBase::TypeEvent || incidence.allDay()) {
+        return {};
+    }
+    const auto &event = static_cast<const KCalCore::Event &>(incidence);
+    const QDateTime start = event.dtStart();
+    if (start.timeSpec() == Qt::LocalTime || !event.hasEndDate()) {
+        return {};
+    }
+    const Msecs startMoment = momentOf(start);
+    return TimeSpan{startMoment, qMax(startMoment, momentOf(event.dtEnd()))};
+}
+} // namespace
+
 bool isWallBound(const KCalCore::Incidence &incidence)
 {
     return incidence.allDay() || anchor(incidence).timeSpec() == Qt::LocalTime;
@@ -51,7 +71,7 @@ Msecs Length::endAfter(const QDateTime &start, const ZoneClock &clock) const
     }
     const QDateTime afterDays =
         days == 0 ? start : atWallClock(start.date().addDays(days), start.time(), start.timeZone());
-    return afterDays.toMSecsSinceEpoch() + seconds * 1000;
+    return momentOf(afterDays) + seconds * 1000;
 }
 
 QDateTime inOwnZone(const QDateTime &dateTime, bool wallBound, const ZoneClock &clock)
@@ -61,10 +81,13 @@ QDateTime inOwnZone(const QDateTime &dateTime, bool wallBound, const ZoneClock &
 
 TimeSpan spanOf(const KCalCore::Incidence &incidence, const ZoneClock &clock)
 {
+    if (const auto moments = momentsOf(incidence)) {
+        return *moments;
+    }
     const QDateTime start = inOwnZone(anchor(incidence), isWallBound(incidence), clock);
     const Length length = Length::of(incidence);
     const Msecs startMoment =
-        length.allDay ? clock.dayStart(anchor(incidence).date()) : start.toMSecsSinceEpoch();
+        length.allDay ? clock.dayStart(anchor(incidence).date()) : momentOf(start);
     return {startMoment, qMax(startMoment, length.endAfter(start, clock))};
 }
 } // namespace mKCal

@@ -66,7 +66,7 @@ Occurrence SeriesOccurrences::occurrenceOf(const Stretch &stretch, const SeriesW
     }
     const Length &length = stretch.length;
     TimeSpan span;
-    span.start = length.allDay ? m_scale.clock.dayStart(start.date()) : start.toMSecsSinceEpoch();
+    span.start = length.allDay ? m_scale.clock.dayStart(start.date()) : momentOf(start);
     span.end = qMax(span.start, length.endAfter(start, m_scale.clock));
     if (m_longestPeriod > 0 && stretch.incidence == m_series) {
         const KCalCore::Period period =

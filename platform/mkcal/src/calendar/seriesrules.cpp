@@ -7,7 +7,10 @@
 #include "dateindex.h"
 #include "recurrenceidentity.h"
 
+#include <QSet>
+
 #include <algorithm>
+#include <limits>
 
 namespace mKCal
 {
@@ -51,21 +54,32 @@ int secondsOfPeriod(RecurrenceRule::PeriodType period)
     }
 }
 
-/// How many occurrences each period has: known for rules without BY parts and for weekdays of a
-/// week, 0 for others.
+/// How many occurrences each period has: known for rules without BY parts, for weekdays of a week
+/// and for days that every month has, 0 for others.
 int occurrencesPerPeriod(const RecurrenceRule &rule)
 {
     const bool hasOtherParts = !rule.bySeconds().isEmpty() || !rule.byMinutes().isEmpty()
-        || !rule.byHours().isEmpty() || !rule.byMonthDays().isEmpty()
-        || !rule.byYearDays().isEmpty() || !rule.byWeekNumbers().isEmpty()
-        || !rule.byMonths().isEmpty() || !rule.bySetPos().isEmpty();
+        || !rule.byHours().isEmpty() || !rule.byYearDays().isEmpty()
+        || !rule.byWeekNumbers().isEmpty() || !rule.byMonths().isEmpty()
+        || !rule.bySetPos().isEmpty();
     if (hasOtherParts) {
         return 0;
     }
-    if (rule.byDays().isEmpty()) {
-        return 1;
+    QSet<int> days; // a hostile rule may name one twice
+    for (const RecurrenceRule::WDayPos &weekDay : rule.byDays()) {
+        days.insert(weekDay.day());
     }
-    return rule.recurrenceType() == RecurrenceRule::rWeekly ? rule.byDays().size() : 0;
+    if (rule.byMonthDays().isEmpty()) {
+        const bool isKnown = days.isEmpty() || rule.recurrenceType() == RecurrenceRule::rWeekly;
+        return isKnown ? qMax(1, days.size()) : 0;
+    }
+    if (!days.isEmpty() || rule.recurrenceType() != RecurrenceRule::rMonthly) {
+        return 0;
+    }
+    for (const int day : rule.byMonthDays()) {
+        days.insert(day >= 1 && day <= 28 ? day : 0);
+    }
+    return days.contains(0) ? 0 : days.size();
 }
 
 /// A moment that the last occurrence of a rule with a count does not pass; null when only counting
@@ -76,9 +90,14 @@ QDateTime boundOfCount(const RecurrenceRule &rule)
     if (perPeriod == 0) {
         return {};
     }
-    const qint64 periods = rule.byDays().isEmpty() ? rule.duration() - 1
-                                                   : (rule.duration() + perPeriod - 1) / perPeriod;
+    const qint64 count = rule.duration();
+    const bool isPlain = rule.byDays().isEmpty() && rule.byMonthDays().isEmpty();
+    const qint64 periods = isPlain ? count - 1 : (count + perPeriod - 1) / perPeriod;
     const qint64 steps = periods * rule.frequency();
+    // Nothing that has a date goes on for so long.
+    if (steps > std::numeric_limits<qint32>::max()) {
+        return {};
+    }
     const QDateTime start = rule.startDt();
     if (const int seconds = secondsOfPeriod(rule.recurrenceType())) {
         return start.addSecs(steps * seconds);
@@ -199,17 +218,17 @@ QDateTime lastOf(const RecurrenceRule &rule)
 }
 } // namespace
 
-TimeSpan lifeOfSeries(const KCalCore::Incidence &series,
+TimeSpan lifeOfSeries(const KCalCore::Incidence &series, const TimeSpan &firstSpan,
                       const KCalCore::Incidence::List &exceptions, const ZoneClock &clock)
 {
-    TimeSpan life = spanOf(series, clock);
+    TimeSpan life = firstSpan;
     const Recurrence &recurrence = *series.recurrence();
     const bool wallBound = isWallBound(series);
     const Length length = Length::of(series);
     const QDateTime first = recurrence.startDateTime();
     const auto include = [&](const QDateTime &dateTime) {
         const QDateTime start = inOwnZone(inSpecOf(first, dateTime), wallBound, clock);
-        life.start = qMin(life.start, start.toMSecsSinceEpoch());
+        life.start = qMin(life.start, momentOf(start));
         life.end = qMax(life.end, length.endAfter(start, clock));
     };
     const auto rules = recurrence.rRules();

@@ -16,7 +16,8 @@ namespace mKCal
 /// none), as its rules and RDATEs say; a THISANDFUTURE exception among @p exceptions moves it. The
 /// end may be later than that of the last occurrence by less than one step of a rule: counting a
 /// rule out can cost milliseconds.
-TimeSpan lifeOfSeries(const KCalCore::Incidence &series,
+/// @param first what spanOf() gives for @p series.
+TimeSpan lifeOfSeries(const KCalCore::Incidence &series, const TimeSpan &first,
                       const KCalCore::Incidence::List &exceptions, const ZoneClock &clock);
 
 /// What the starts of a series are counted in.

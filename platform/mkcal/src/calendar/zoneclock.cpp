@@ -37,6 +37,14 @@ QDateTime unskipped(const QDateTime &dateTime)
         : wall;
 }
 
+Msecs momentOf(const QDateTime &dateTime)
+{
+    if (dateTime.timeSpec() != Qt::TimeZone || !dateTime.isValid()) {
+        return dateTime.toMSecsSinceEpoch();
+    }
+    return (wallSeconds(dateTime) - dateTime.offsetFromUtc()) * 1000 + dateTime.time().msec();
+}
+
 qint64 wallSeconds(const QDateTime &dateTime)
 {
     return (dateTime.date().toJulianDay() - QDate(1970, 1, 1).toJulianDay()) * 86400
@@ -81,6 +89,16 @@ Msecs ZoneClock::at(const QDate &date, const QTime &time) const
 }
 
 Msecs ZoneClock::dayStart(const QDate &date) const
+{
+    const qint64 day = date.toJulianDay();
+    KnownDay &known = m_knownDays[static_cast<quint64>(day) % m_knownDays.size()];
+    if (known.day != day || !date.isValid()) {
+        known = {day, findDayStart(date)};
+    }
+    return known.start;
+}
+
+Msecs ZoneClock::findDayStart(const QDate &date) const
 {
     const QDateTime midnight(date, QTime(0, 0), m_zone);
     if (midnight.isValid()) {

@@ -7,6 +7,9 @@
 #include <QDateTime>
 #include <QTimeZone>
 
+#include <array>
+#include <limits>
+
 namespace mKCal
 {
 /// Milliseconds since 1970-01-01T00:00:00Z.
@@ -22,6 +25,10 @@ QDateTime atWallClock(const QDate &date, const QTime &time, const QTimeZone &zon
 /// The wall clock, written as UTC, that atWallClock() reads as @p dateTime: the skipped one when
 /// there is one, otherwise what is shown.
 QDateTime unskipped(const QDateTime &dateTime);
+
+/// The same as toMSecsSinceEpoch(), which looks the offset of a zone up anew at every call, although
+/// the date-time knows it.
+Msecs momentOf(const QDateTime &dateTime);
 
 /// What the wall clock shows, as seconds counted as if it were UTC: a measure for distances
 /// between dates that no clock change bends.
@@ -45,14 +52,23 @@ public:
 
     const QTimeZone &zone() const { return m_zone; }
     Msecs at(const QDate &date, const QTime &time) const;
-    /// The first moment of a day, whatever the clock shows then.
+    /// The first moment of a day, whatever the clock shows then. Remembers some, so that asking for
+    /// the same days again costs nothing.
     Msecs dayStart(const QDate &date) const;
     QDateTime dateTime(Msecs moment) const;
     QDate date(Msecs moment) const { return dateTime(moment).date(); }
 
 private:
+    struct KnownDay {
+        qint64 day = std::numeric_limits<qint64>::min(); // Julian
+        Msecs start = 0;
+    };
+
+    Msecs findDayStart(const QDate &date) const;
+
     QTimeZone m_zone;
     bool m_isSystem;
+    mutable std::array<KnownDay, 64> m_knownDays; // each by its remainder
 };
 } // namespace mKCal
 

@@ -85,16 +85,22 @@ std::unique_ptr<RecurrenceRule> RecurrenceReader::rule(const Recurrence &recurre
         return nullptr;
     }
     auto rule = std::make_unique<RecurrenceRule>();
-    rule->setRecurrenceType(RecurrenceRule::PeriodType(period));
-    rule->setFrequency(frequency);
+    // Each setter makes the rule work out its parts anew, and while it has no start, in the zone of
+    // the system, which takes long to ask for.
     rule->setStartDt(m_rules.isNull(StartWall) ? recurrence.startDateTime()
                                                : m_dateTimes.read(m_rules, StartWall));
-    rule->setAllDay(recurrence.allDay());
+    rule->setRecurrenceType(RecurrenceRule::PeriodType(period));
+    rule->setFrequency(frequency);
+    if (recurrence.allDay())
+        rule->setAllDay(true);
     const int count = qMax(-1, m_rules.smallInteger(RuleCount));
     if (count == 0)
         rule->setEndDt(m_dateTimes.read(m_rules, EndWall));
-    rule->setDuration(count);
-    rule->setWeekStart(short(qBound(1, m_rules.smallInteger(WeekStart), 7)));
+    if (count != rule->duration())
+        rule->setDuration(count);
+    const int weekStart = qBound(1, m_rules.smallInteger(WeekStart), 7);
+    if (weekStart != rule->weekStart())
+        rule->setWeekStart(short(weekStart));
     readByParts(rule.get());
     const QString text = m_rules.text(Text);
     if (!text.isEmpty())

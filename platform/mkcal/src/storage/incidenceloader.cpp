@@ -15,9 +15,7 @@ KCalCore::Incidence::Ptr findInCalendar(const ExtendedCalendar &calendar, const 
 KCalCore::Incidence::Ptr findInCalendar(const ExtendedCalendar &calendar,
                                         const KCalCore::Incidence &incidence)
 {
-    if (!incidence.hasRecurrenceId())
-        return calendar.incidence(incidence.uid(), KDateTime());
-    return findInCalendar(calendar, IncidenceKey::of(incidence));
+    return calendar.incidence(incidence.uid(), KDateTime(incidence.recurrenceId()));
 }
 
 IncidenceLoader::IncidenceLoader(const ExtendedCalendar::Ptr &calendar, ChangeRecord &changes,
