@@ -47,12 +47,6 @@ void checkText(const QString &text)
 }
 } // namespace
 
-extern "C" int LLVMFuzzerInitialize(int *, char ***)
-{
-    qputenv("TZ", "Europe/Helsinki");
-    return 0;
-}
-
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t size)
 {
     checkText(QString::fromUtf8(reinterpret_cast<const char *>(data), int(size)));
