@@ -55,10 +55,6 @@ RawDatabase::RawDatabase(const QString &fileName)
     constexpr const char *pragmas = "PRAGMA journal_mode=WAL; PRAGMA synchronous=FULL;"
                                     "PRAGMA busy_timeout=5000; PRAGMA foreign_keys=ON";
     require(sqlite3_exec(m_database, pragmas, nullptr, nullptr, nullptr) == SQLITE_OK, fileName);
-    for (const char *table : childTables) {
-        m_children.append(
-            prepare(QByteArray("SELECT * FROM ") + table + " WHERE comp = ? ORDER BY pos"));
-    }
     m_begin = prepare("BEGIN IMMEDIATE");
     m_update = prepare("UPDATE Components SET summary = ? WHERE id = ?");
     m_commit = prepare("COMMIT");
@@ -98,11 +94,15 @@ int RawDatabase::readAll(const QByteArray &condition, const QVector<qint64> &val
 int RawDatabase::readChildren(qint64 id, qint64 flags)
 {
     int rows = 0;
-    for (int table = 0; table < m_children.size(); ++table) {
+    for (int table = 0; table < int(m_children.size()); ++table) {
         if ((flags & (qint64(1) << table)) == 0) {
             continue;
         }
-        sqlite3_stmt *query = m_children.at(table);
+        sqlite3_stmt *&query = m_children[std::size_t(table)];
+        if (query == nullptr) {
+            query = prepare(QByteArray("SELECT * FROM ") + childTables[table]
+                            + " WHERE comp = ? ORDER BY pos");
+        }
         sqlite3_bind_int64(query, 1, id);
         while (sqlite3_step(query) == SQLITE_ROW) {
             touchColumns(query);

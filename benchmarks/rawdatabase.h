@@ -7,6 +7,8 @@
 #include <QByteArray>
 #include <QVector>
 
+#include <array>
+
 struct sqlite3;
 struct sqlite3_stmt;
 
@@ -34,7 +36,7 @@ private:
 
     sqlite3 *m_database = nullptr;
     QVector<sqlite3_stmt *> m_statements;
-    QVector<sqlite3_stmt *> m_children;
+    std::array<sqlite3_stmt *, 7> m_children = {}; ///< prepared when they are first needed
     sqlite3_stmt *m_begin = nullptr;
     sqlite3_stmt *m_update = nullptr;
     sqlite3_stmt *m_commit = nullptr;

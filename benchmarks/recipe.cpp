@@ -50,16 +50,24 @@ void addRecurrence(const Recipe &recipe, Recurrence *recurrence)
 {
     for (const auto &values : recipe.rules) {
         auto *rule = new RecurrenceRule;
+        rule->setStartDt(recurrence->startDateTime());
         rule->setRecurrenceType(values.type);
         rule->setFrequency(int(values.frequency));
-        rule->setStartDt(recurrence->startDateTime());
-        rule->setDuration(values.duration);
         if (values.duration == 0) {
             rule->setEndDt(values.end.dateTime());
         }
-        rule->setByDays(values.byDays);
-        rule->setByMonthDays(values.byMonthDays);
-        rule->setByMonths(values.byMonths);
+        if (values.duration >= 0) {
+            rule->setDuration(values.duration);
+        }
+        if (!values.byDays.isEmpty()) {
+            rule->setByDays(values.byDays);
+        }
+        if (!values.byMonthDays.isEmpty()) {
+            rule->setByMonthDays(values.byMonthDays);
+        }
+        if (!values.byMonths.isEmpty()) {
+            rule->setByMonths(values.byMonths);
+        }
         recurrence->addRRule(rule);
     }
     for (const auto &dateTime : recipe.excluded) {

@@ -15,7 +15,7 @@ using namespace mKCal;
 
 namespace
 {
-constexpr int rounds = 9;
+constexpr int rounds = 15;
 constexpr int saves = 300;
 constexpr int rangeDays = 60;
 
