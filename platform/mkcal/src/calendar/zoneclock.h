@@ -26,8 +26,8 @@ QDateTime atWallClock(const QDate &date, const QTime &time, const QTimeZone &zon
 /// there is one, otherwise what is shown.
 QDateTime unskipped(const QDateTime &dateTime);
 
-/// The same as toMSecsSinceEpoch(), which looks the offset of a zone up anew at every call, although
-/// the date-time knows it.
+/// The same as toMSecsSinceEpoch(), which looks the offset of a zone up anew at every call,
+/// although the date-time knows it.
 Msecs momentOf(const QDateTime &dateTime);
 
 /// What the wall clock shows, as seconds counted as if it were UTC: a measure for distances
