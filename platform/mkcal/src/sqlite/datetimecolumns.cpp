@@ -108,6 +108,9 @@ bool DateTimeColumns::identical(const QDateTime &a, const QDateTime &b)
 
 qint64 DateTimeColumns::seconds(const QDateTime &dateTime, bool byWallClock)
 {
+    // The end of a hostile period lies beyond all dates.
+    if (!dateTime.date().isValid())
+        return 0;
     if (!byWallClock && dateTime.timeSpec() != Qt::LocalTime)
         return dateTime.toSecsSinceEpoch();
     return (dateTime.date().toJulianDay() - epochJulianDay) * 86400

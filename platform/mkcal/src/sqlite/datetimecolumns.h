@@ -28,7 +28,8 @@ qint64 wallClock(const QDateTime &dateTime);
 QByteArray zoneTag(const QDateTime &dateTime);
 /// Whether two date-times are the same in everything: clock, kind of clock, zone, moment.
 bool identical(const QDateTime &a, const QDateTime &b);
-/// Seconds since 1970, UTC; those of the wall clock read as UTC when @p byWallClock.
+/// Seconds since 1970, UTC; those of the wall clock read as UTC when @p byWallClock; 0 without a
+/// date.
 qint64 seconds(const QDateTime &dateTime, bool byWallClock);
 } // namespace DateTimeColumns
 
