@@ -28,6 +28,10 @@ QByteArray ContentLine::name(const QByteArray &line)
 
 bool ContentLine::isNamed(const QByteArray &line, const char *upperCaseName)
 {
+    // Asked a dozen times for each line of a file.
+    if (line.isEmpty() || (line.at(0) & ~0x20) != upperCaseName[0]) {
+        return false;
+    }
     const auto size = int(qstrlen(upperCaseName));
     return line.size() > size && qstrnicmp(line.constData(), upperCaseName, uint(size)) == 0
         && (line.at(size) == ':' || line.at(size) == ';' || line.at(size) == ' ');

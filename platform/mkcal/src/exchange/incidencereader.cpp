@@ -235,7 +235,7 @@ void IncidenceReader::finish(Result *result)
         return;
     }
     result->losses = lossesOf(result->component, result->incidence);
-    TextCarrier::afterReading(result->incidence);
+    TextCarrier::afterReading(result->component, result->incidence);
     fromICalendarConvention(result->incidence);
     result->losses += lostRule(result->component, result->incidence);
 }

@@ -256,7 +256,7 @@ bool TextCarrier::carries(const QByteArray &line)
         return line.contains("\\,");
     }
     if (isForeignProperty(line)) {
-        return line.left(line.indexOf(':')).contains(';');
+        return line.startsWith("X-DASKEL-") || line.left(line.indexOf(':')).contains(';');
     }
     return std::any_of(std::begin(carriedProperties), std::end(carriedProperties),
                        [&line](const char *name) { return ContentLine::isNamed(line, name); });
@@ -277,12 +277,15 @@ void TextCarrier::beforeReading(CalendarComponent *component)
     // At the end, where they prevail over properties of these names that are there already.
     component->text.insert(component->text.lastIndexOf("END:"), added);
 }
-void TextCarrier::afterReading(const Incidence::Ptr &incidence)
+void TextCarrier::afterReading(const CalendarComponent &component, const Incidence::Ptr &incidence)
 {
-    takeProperty(incidence, indexProperty);
     if (incidence->summary() == noSummary) {
         incidence->setSummary(QString(), false);
     }
+    if (!component.hasCarriedProperties) {
+        return;
+    }
+    takeProperty(incidence, indexProperty);
     AttendeeText::afterReading(incidence);
     convertParameters(incidence, parametersFromHex);
     if (incidence->categories().join(QChar()).contains(commaInsideCharacter)) {

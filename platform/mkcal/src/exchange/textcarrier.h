@@ -31,8 +31,8 @@ namespace TextCarrier
 bool carries(const QByteArray &line);
 /// Changes the text of a component before ICalFormat reads it.
 void beforeReading(CalendarComponent *component);
-/// Puts what was carried where it belongs in an incidence that was read.
-void afterReading(const KCalCore::Incidence::Ptr &incidence);
+/// Puts what was carried where it belongs in the incidence that was read from @p component.
+void afterReading(const CalendarComponent &component, const KCalCore::Incidence::Ptr &incidence);
 /// Changes a clone before ICalFormat writes it.
 void beforeWriting(const KCalCore::Incidence::Ptr &clone);
 /// The lines of the file from the unfolded text of a component that ICalFormat wrote; folded.
