@@ -2,6 +2,7 @@
 # SPDX-License-Identifier: LGPL-2.1-or-later
 
 daskel_add_test(tst_bulkwriter LINK mkcal SQLite::SQLite3)
+daskel_add_test(tst_defaultfile LINK mkcal)
 daskel_add_test(tst_loadrecord LINK mkcal)
 daskel_add_test(tst_notices LINK mkcal SQLite::SQLite3)
 daskel_add_test(tst_sqlitestorage_load LINK mkcal SQLite::SQLite3)
