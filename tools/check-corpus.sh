@@ -37,10 +37,10 @@ import() {
     [ $code -eq 0 ] || [ $code -eq 3 ]
 }
 
-# written DATABASE: its export in DATABASE.ics, without the moment at which each was stored there.
+# written DATABASE: its export in DATABASE.ics, without the moment at which it was written.
 written() {
     "$daskel" --data "$work/$1" export "$work/whole.ics" 2>"$work/messages" &&
-        grep -v -e '^DTSTAMP:' -e '^LAST-MODIFIED:' "$work/whole.ics" >"$work/$1.ics"
+        grep -v '^DTSTAMP:' "$work/whole.ics" >"$work/$1.ics"
 }
 
 # check FILE: prints why it fails.

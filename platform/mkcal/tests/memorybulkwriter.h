@@ -6,6 +6,7 @@
 
 #include "sqlite/componentkeys.h"
 
+#include <kcalcompat/clock.h>
 #include <mkcal/bulkwriter.h>
 
 #include <QMap>
@@ -24,6 +25,13 @@ public:
     {
         if (failing) {
             return false;
+        }
+        const QDateTime now = KCalCompat::Clock::now();
+        if (!incidence->created().isValid()) {
+            incidence->setCreated(now);
+        }
+        if (!incidence->lastModified().isValid()) {
+            incidence->setLastModified(now);
         }
         m_incidences.insert(key(incidence->uid(), mKCal::recIdText(*incidence)),
                             KCalCore::Incidence::Ptr(incidence->clone()));

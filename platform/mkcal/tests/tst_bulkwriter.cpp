@@ -3,7 +3,10 @@
 
 #include "storagefixture.h"
 
+#include <mkcal/calendarimporter.h>
 #include <mkcal/incidencecomparison.h>
+
+#include <QBuffer>
 
 using namespace mKCal;
 using namespace Make;
@@ -21,6 +24,8 @@ private Q_SLOTS:
     void unsavedChangesStay();
     void notebooksOfWritten_data();
     void notebooksOfWritten();
+    void timesOfImported_data();
+    void timesOfImported();
     void removedSeriesTakesItsExceptions();
     void oneAtATime();
     void refusedWhileClosed();
@@ -155,6 +160,64 @@ void TestBulkWriter::notebooksOfWritten()
     // A notebook that is not known does not spoil the rest.
     QVERIFY(writer->write(meeting("rest", at(2026, 3, 10)), "home"));
     QVERIFY(writer->commit());
+}
+
+void TestBulkWriter::timesOfImported_data()
+{
+    QTest::addColumn<QByteArray>("first");
+    QTest::addColumn<QByteArray>("second"); // a day later
+    QTest::addColumn<int>("changed");
+    QTest::addColumn<QDateTime>("created");
+    QTest::addColumn<QDateTime>("modified");
+    const QByteArray times = "CREATED:20190101T100000Z\r\nLAST-MODIFIED:20190202T110000Z\r\n";
+    const QByteArray later = "CREATED:20190101T100000Z\r\nLAST-MODIFIED:20190303T120000Z\r\n";
+    const QByteArray change = "SUMMARY:changed\r\n";
+    const QDateTime fileCreated(QDate(2019, 1, 1), QTime(10, 0), Qt::UTC);
+    const QDateTime fileModified(QDate(2019, 2, 2), QTime(11, 0), Qt::UTC);
+    const QDateTime fileModifiedLater(QDate(2019, 3, 3), QTime(12, 0), Qt::UTC);
+    const QDateTime now(QDate(2026, 3, 10), QTime(12, 0), Qt::UTC);
+    const QDateTime tomorrow = now.addDays(1);
+
+    QTest::newRow("in the file") << times << times << 0 << fileCreated << fileModified;
+    QTest::newRow("in the file, then a change")
+        << times << later + change << 1 << fileCreated << fileModifiedLater;
+    // Whatever the file says, the other processes are told.
+    QTest::newRow("in the file, then an older one")
+        << later << times + change << 1 << fileCreated << fileModified;
+    QTest::newRow("not in the file") << QByteArray() << QByteArray() << 0 << now << now;
+    QTest::newRow("not in the file, then a change")
+        << QByteArray() << change << 1 << now << tomorrow;
+    QTest::newRow("no longer in the file") << times << change << 1 << fileCreated << tomorrow;
+}
+
+void TestBulkWriter::timesOfImported()
+{
+    QFETCH(QByteArray, first);
+    QFETCH(QByteArray, second);
+    QFETCH(int, changed);
+    const auto import = [this](const QByteArray &lines) {
+        QBuffer file;
+        file.setData("BEGIN:VEVENT\r\nUID:imported\r\nDTSTART:20260310T090000Z\r\n" + lines
+                     + "END:VEVENT\r\n");
+        ImportReport report;
+        CalendarImporter(m_opened->storage).importDevice(&file, QString(), &report);
+        return report;
+    };
+    QCOMPARE(import(first).created, 1);
+    const auto other = m_fixture->open();
+    QVERIFY(other->storage->load("imported"));
+    m_fixture->now = m_fixture->now.addDays(1);
+    const ImportReport report = import(second);
+    QCOMPARE(report.changed, changed);
+    QCOMPARE(report.same, 1 - changed);
+
+    const auto reader = m_fixture->open();
+    QVERIFY(reader->storage->load("imported"));
+    QTEST(reader->incidence("imported")->created(), "created");
+    QTEST(reader->incidence("imported")->lastModified(), "modified");
+    QTRY_COMPARE(other->incidence("imported")->lastModified(),
+                 reader->incidence("imported")->lastModified());
+    QCOMPARE(other->incidence("imported")->summary(), reader->incidence("imported")->summary());
 }
 
 void TestBulkWriter::removedSeriesTakesItsExceptions()

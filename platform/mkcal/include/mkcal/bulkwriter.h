@@ -27,7 +27,8 @@ public:
     /// The notebook that holds that UID; empty when none does.
     virtual QString notebook(const QString &uid) = 0;
     /// Stores @p incidence in place of what find() answers. A UID that is already in a notebook
-    /// stays in it; a new one goes into @p notebookUid. False on a storage error (then the whole
+    /// stays in it; a new one goes into @p notebookUid. Its created() and lastModified() are kept,
+    /// and set to now where it has none. False on a storage error (then the whole
     /// transaction is void) and for an unknown notebook.
     virtual bool write(const KCalCore::Incidence::Ptr &incidence, const QString &notebookUid) = 0;
     /// Deletes it, a series with its exceptions, leaving tombstones. True when there was nothing.

@@ -36,7 +36,9 @@ struct ImportReport {
 /// Takes iCalendar files (RFC 5545) into the database.
 ///
 /// Incidences are matched by UID and RECURRENCE-ID, so importing a file again changes nothing; one
-/// without UID gets one that follows from its text. Of several versions in the files of one call
+/// without UID gets one that follows from its text. CREATED and LAST-MODIFIED are the file's; one
+/// that gives none was created when it was first imported, and modified at the import that changed
+/// it. Of several versions in the files of one call
 /// the newest is taken (SEQUENCE, DTSTAMP, then the last). A component that cannot be read is
 /// reported and skipped while the rest goes in. One transaction for all files of one importer call;
 /// on a storage error nothing is stored. UI thread.

@@ -68,7 +68,8 @@ public:
     /// completed in one second stay on one page, which may make it longer than @p limit. Returns
     /// how many there were, -1 on failure.
     virtual int loadCompletedTodos(int limit, KDateTime *last) = 0;
-    /// Those created or last modified at or after @p since (UTC).
+    /// Those created or last modified at or after @p since (UTC), as they say themselves: what an
+    /// import brought keeps the times that its file gives.
     virtual bool loadCreatedSince(const QDateTime &since) = 0;
     virtual bool loadModifiedSince(const QDateTime &since) = 0;
     /// Those that have an attendee or organizer with that e-mail address, without regard to case.

@@ -32,8 +32,12 @@ struct NotedProperty {
 };
 
 constexpr NotedProperty notedProperties[] = {
-    {"UID", &CalendarComponent::uid},           {"RECURRENCE-ID", &CalendarComponent::recurrenceId},
-    {"SEQUENCE", &CalendarComponent::sequence}, {"DTSTAMP", &CalendarComponent::stamp},
+    {"UID", &CalendarComponent::uid},
+    {"RECURRENCE-ID", &CalendarComponent::recurrenceId},
+    {"SEQUENCE", &CalendarComponent::sequence},
+    {"DTSTAMP", &CalendarComponent::stamp},
+    {"CREATED", &CalendarComponent::created},
+    {"LAST-MODIFIED", &CalendarComponent::lastModified},
     {"TZID", &CalendarComponent::timeZoneId},
 };
 

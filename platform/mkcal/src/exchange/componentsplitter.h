@@ -33,6 +33,8 @@ struct CalendarComponent {
     QByteArray recurrenceId;
     QByteArray sequence;
     QByteArray stamp;
+    QByteArray created;
+    QByteArray lastModified;
     QByteArray timeZoneId;
 
     /// A VEVENT, VTODO or VJOURNAL.

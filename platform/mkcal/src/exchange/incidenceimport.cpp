@@ -231,6 +231,9 @@ bool IncidenceImport::store(const IncidenceReader::Result &result)
         ++m_report->same;
         return true;
     }
+    if (stored && !incidence->created().isValid()) {
+        incidence->setCreated(stored->created());
+    }
     ++(stored ? m_report->changed : m_report->created);
     return m_writer->write(incidence, notebookUid);
 }

@@ -237,6 +237,13 @@ void IncidenceReader::finish(Result *result)
     result->losses = lossesOf(result->component, result->incidence);
     TextCarrier::afterReading(result->component, result->incidence);
     fromICalendarConvention(result->incidence);
+    // ICalFormat has put the time of reading there.
+    if (result->component.created.isEmpty()) {
+        result->incidence->setCreated(QDateTime());
+    }
+    if (result->component.lastModified.isEmpty()) {
+        result->incidence->setLastModified(QDateTime());
+    }
     result->losses += lostRule(result->component, result->incidence);
 }
 } // namespace mKCal

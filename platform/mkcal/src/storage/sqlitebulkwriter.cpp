@@ -73,7 +73,8 @@ bool SqliteBulkWriter::write(const KCalCore::Incidence::Ptr &incidence, const QS
     const QDateTime now = KCalCompat::Clock::now();
     if (!incidence->created().isValid())
         incidence->setCreated(now);
-    incidence->setLastModified(now);
+    if (!incidence->lastModified().isValid())
+        incidence->setLastModified(now);
     StoredComponent stored;
     if (!m_tables->writer.find(incidence->uid(), recIdText(*incidence), &stored))
         return fail();
