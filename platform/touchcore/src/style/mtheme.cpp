@@ -1,0 +1,273 @@
+// SPDX-FileCopyrightText: 2026 The daskel authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "mtheme_p.h"
+#include "stylefiller.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QStandardPaths>
+
+#include <touchcore/mstyle.h>
+
+namespace
+{
+const char baseLibrary[] = "base";
+}
+
+uint qHash(const StyleKey &key, uint seed)
+{
+    return ::qHash(key.styleClass, seed) ^ ::qHash(key.widgetClass, seed) * 31
+        ^ ::qHash(key.styleName, seed) ^ ::qHash(key.mode, seed);
+}
+
+MThemePrivate::MThemePrivate(MTheme *theme) : q(theme)
+{
+    values.rules = &rules;
+}
+
+bool MThemePrivate::readFile(const QString &file)
+{
+    QFile theme(file);
+    if (!theme.open(QIODevice::ReadOnly)) {
+        warn(QStringLiteral("%1: %2").arg(file, theme.errorString()));
+        return false;
+    }
+    QStringList includes;
+    bool isRead = read(theme.readAll(), file, &includes);
+    for (const QString &name : qAsConst(includes))
+        isRead = readFile(QFileInfo(file).dir().filePath(name)) && isRead;
+    return isRead;
+}
+
+bool MThemePrivate::read(const QByteArray &json, const QString &source, QStringList *includes)
+{
+    QStringList found;
+    const bool isRead = readTheme(json, source, &rules, includes, &found);
+    for (const QString &text : qAsConst(found))
+        warn(text);
+    return isRead;
+}
+
+void MThemePrivate::warn(const QString &text)
+{
+    if (warnings.contains(text))
+        return;
+    warnings.append(text);
+    qWarning("%s", qUtf8Printable(text));
+}
+
+QString MThemePrivate::folderOf(const QString &library)
+{
+    const QStringList places{
+        QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation),
+        QCoreApplication::applicationDirPath() + QLatin1String("/../share"),
+        QStringLiteral(":"),
+    };
+    for (const QString &place : places) {
+        const QString folder = place + QLatin1String("/daskel/themes/") + library;
+        if (QFileInfo::exists(folder + QLatin1String("/theme.json")))
+            return QDir::cleanPath(folder);
+    }
+    return {};
+}
+
+void MThemePrivate::restyleAll()
+{
+    styles.clear();
+    imageFiles.clear();
+    Q_EMIT q->changed();
+}
+
+MTheme *MTheme::instance()
+{
+    static MTheme theme;
+    if (!theme.d->libraries.contains(QLatin1String(baseLibrary)))
+        theme.addLibrary(QLatin1String(baseLibrary));
+    return &theme;
+}
+
+MTheme::MTheme() : d(std::make_unique<MThemePrivate>(this)) { }
+
+MTheme::~MTheme() = default;
+
+bool MTheme::addLibrary(const QString &library)
+{
+    if (d->libraries.contains(library))
+        return true;
+    d->libraries.insert(library);
+    const QString folder = MThemePrivate::folderOf(library);
+    if (folder.isEmpty()) {
+        d->warn(QStringLiteral("There is no theme of the library \"%1\".").arg(library));
+        return false;
+    }
+    d->imageFolders.prepend(folder + QLatin1String("/images"));
+    const bool isRead = d->readFile(folder + QLatin1String("/theme.json"));
+    d->restyleAll();
+    return isRead;
+}
+
+void MTheme::registerStylableType(const char *, const QString &library)
+{
+    addLibrary(library);
+}
+
+bool MTheme::load(const QByteArray &json, const QString &source)
+{
+    QStringList includes;
+    if (!d->read(json, source, &includes))
+        return false;
+    for (const QString &name : qAsConst(includes))
+        d->warn(QStringLiteral("%1: a text cannot include \"%2\"").arg(source, name));
+    d->restyleAll();
+    return true;
+}
+
+QStringList MTheme::warnings() const
+{
+    return d->warnings;
+}
+
+M::ColorScheme MTheme::colorScheme() const
+{
+    return d->values.isDark ? M::DarkScheme : M::LightScheme;
+}
+
+void MTheme::setColorScheme(M::ColorScheme scheme)
+{
+    d->preference.reset();
+    if (scheme == colorScheme())
+        return;
+    d->values.isDark = scheme == M::DarkScheme;
+    d->restyleAll();
+}
+
+void MTheme::followDesktop()
+{
+    if (d->preference)
+        return;
+    d->preference = std::make_unique<DesktopPreference>(nullptr);
+    connect(d->preference.get(), &DesktopPreference::schemePreferred, this,
+            [this](M::ColorScheme scheme) {
+                if (scheme == colorScheme())
+                    return;
+                d->values.isDark = scheme == M::DarkScheme;
+                d->restyleAll();
+            });
+}
+
+M::Orientation MTheme::orientation() const
+{
+    return d->orientation;
+}
+
+void MTheme::setOrientation(M::Orientation orientation)
+{
+    if (orientation == d->orientation)
+        return;
+    d->orientation = orientation;
+    if (d->rules.dependOnOrientation)
+        d->restyleAll();
+}
+
+void MTheme::setTextScale(qreal scale)
+{
+    const qreal bounded = qBound(0.5, scale, 3.0);
+    if (qFuzzyCompare(bounded, d->values.textScale))
+        return;
+    d->values.textScale = bounded;
+    d->restyleAll();
+}
+
+qreal MTheme::textScale() const
+{
+    return d->values.textScale;
+}
+
+bool MTheme::isMotionReduced() const
+{
+    return d->isMotionReduced;
+}
+
+void MTheme::setMotionReduced(bool isReduced)
+{
+    d->isMotionReduced = isReduced;
+}
+
+QColor MTheme::color(const QString &role) const
+{
+    const QColor color = d->values.color(role);
+    if (!color.isValid())
+        d->warn(QStringLiteral("The theme has no colour \"%1\".").arg(role));
+    return color;
+}
+
+int MTheme::measure(const QString &name) const
+{
+    if (!d->rules.measures.contains(name))
+        d->warn(QStringLiteral("The theme has no measure \"%1\".").arg(name));
+    return d->rules.measures.value(name);
+}
+
+QFont MTheme::font(const QString &name) const
+{
+    const QFont font = d->values.font(name);
+    if (font.pixelSize() <= 0)
+        d->warn(QStringLiteral("The theme has no font \"%1\".").arg(name));
+    return font;
+}
+
+QString MTheme::imageFile(const QString &id) const
+{
+    const auto known = d->imageFiles.constFind(id);
+    if (known != d->imageFiles.constEnd())
+        return *known;
+    QString found;
+    for (const QString &folder : qAsConst(d->imageFolders)) {
+        for (const char *ending : {".svg", ".png"}) {
+            const QString file = folder + QLatin1Char('/') + id + QLatin1String(ending);
+            if (found.isEmpty() && QFile::exists(file))
+                found = file;
+        }
+    }
+    d->imageFiles.insert(id, found);
+    return found;
+}
+
+QString MTheme::viewClass(const QMetaObject *widgetClass, const QString &viewType) const
+{
+    for (; widgetClass; widgetClass = widgetClass->superClass()) {
+        const QString key =
+            QString::fromLatin1(widgetClass->className()) + QLatin1Char('/') + viewType;
+        const auto found = d->rules.views.constFind(key);
+        if (found != d->rules.views.constEnd())
+            return *found;
+    }
+    return {};
+}
+
+QSharedPointer<const MStyle> MTheme::style(const std::function<MStyle *()> &maker,
+                                           const QMetaObject *styleClass,
+                                           const QMetaObject *widgetClass, const QString &styleName,
+                                           const QByteArray &mode)
+{
+    const StyleKey key{styleClass, widgetClass, styleName, mode};
+    QSharedPointer<const MStyle> &kept = d->styles[key];
+    if (!kept) {
+        const QSharedPointer<MStyle> made(maker());
+        const StyleFiller filler(d->values, d->orientation, mode,
+                                 [this](const QString &text) { d->warn(text); });
+        filler.applyClasses(widgetClass, made.data());
+        if (!styleName.isEmpty())
+            filler.applyNamed(styleName, made.data());
+        kept = made;
+    }
+    return kept;
+}
+
+int MTheme::styleCount() const
+{
+    return d->styles.size();
+}

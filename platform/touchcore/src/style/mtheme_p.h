@@ -1,0 +1,60 @@
+// SPDX-FileCopyrightText: 2026 The daskel authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#ifndef TOUCHCORE_MTHEME_P_H
+#define TOUCHCORE_MTHEME_P_H
+
+#include "desktoppreference.h"
+#include "themevalues.h"
+
+#include <QSet>
+
+#include <memory>
+#include <touchcore/mtheme.h>
+
+class MStyle;
+
+/// What tells one style of the cache from another.
+struct StyleKey {
+    const QMetaObject *styleClass;
+    const QMetaObject *widgetClass;
+    QString styleName;
+    QByteArray mode;
+
+    bool operator==(const StyleKey &other) const
+    {
+        return styleClass == other.styleClass && widgetClass == other.widgetClass
+            && styleName == other.styleName && mode == other.mode;
+    }
+};
+uint qHash(const StyleKey &key, uint seed = 0);
+
+class MThemePrivate
+{
+public:
+    explicit MThemePrivate(MTheme *theme);
+
+    /// Reads the file and what it includes; the rules stand above those read before.
+    bool readFile(const QString &file);
+    bool read(const QByteArray &json, const QString &source, QStringList *includes);
+    /// Adds a warning that was not given before.
+    void warn(const QString &text);
+    /// The folder of a library's theme, empty when there is none.
+    static QString folderOf(const QString &library);
+    /// Forgets the styles made so far and tells the widgets.
+    void restyleAll();
+
+    MTheme *q;
+    ThemeRules rules;
+    ThemeValues values;
+    M::Orientation orientation = M::Portrait;
+    bool isMotionReduced = false;
+    QStringList warnings;
+    QSet<QString> libraries;
+    QStringList imageFolders; ///< of later libraries first
+    mutable QHash<QString, QString> imageFiles;
+    QHash<StyleKey, QSharedPointer<const MStyle>> styles;
+    std::unique_ptr<DesktopPreference> preference;
+};
+
+#endif
