@@ -23,16 +23,19 @@ void declare(QCommandLineParser &parser)
                                  QStringLiteral("FILE..."));
 }
 
-void tellSkipped(const mKCal::ImportReport &report, Console &console)
+/// One line for each: "work.ics:214: skipped (7f3a): it has no start".
+void tell(const char *whatBecame, const QVector<mKCal::ImportReport::Skipped> &components,
+          Console &console)
 {
-    for (const auto &skipped : report.skipped) {
-        QString place = skipped.file;
-        if (skipped.line > 0) {
-            place += QStringLiteral(":%1").arg(skipped.line);
+    for (const auto &component : components) {
+        QString place = component.file;
+        if (component.line > 0) {
+            place += QStringLiteral(":%1").arg(component.line);
         }
         const QString uid =
-            skipped.uid.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(skipped.uid);
-        console.message(QStringLiteral("%1: skipped%2: %3").arg(place, uid, skipped.reason));
+            component.uid.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(component.uid);
+        console.message(QStringLiteral("%1: %2%3: %4")
+                            .arg(place, QLatin1String(whatBecame), uid, component.reason));
     }
 }
 
@@ -57,11 +60,12 @@ ExitCode run(const QCommandLineParser &parser, Console &console)
     mKCal::ImportReport report;
     const bool stored = importer.importFiles(parser.positionalArguments(), &report);
     console.endProgress();
-    tellSkipped(report, console);
+    tell("skipped", report.skipped, console);
     if (!stored) {
         console.message(QStringLiteral("nothing was imported: %1").arg(report.error));
         return Failed;
     }
+    tell("altered", report.altered, console);
     console.out() << QStringLiteral("new %1, changed %2, same %3, skipped %4")
                          .arg(report.created)
                          .arg(report.changed)

@@ -38,6 +38,7 @@ private Q_SLOTS:
     void dataFolder();
     void importAgain();
     void importSkips();
+    void importAlters();
     void importRefuses_data();
     void importRefuses();
     void importFromPipe();
@@ -174,6 +175,29 @@ void TestCli::importSkips()
                      "daskel: import: empty.ics: skipped: it is no iCalendar file", QString()}));
     QCOMPARE(result.out, "new 1, changed 0, same 0, skipped 3\n");
     QCOMPARE(result.exitCode, 3);
+}
+
+void TestCli::importAlters()
+{
+    CliRunner cli;
+    cli.write("odd.ics",
+              "BEGIN:VEVENT\r\nUID:zone\r\nDTSTART;TZID=Mars/Olympus:20260501T080000\r\n"
+              "END:VEVENT\r\n"
+              "BEGIN:VEVENT\r\nUID:end\r\nDTSTART:20260501T080000Z\r\n"
+              "DTEND:20260501T070000Z\r\nEND:VEVENT\r\n");
+    const QStringList lines{
+        "daskel: import: odd.ics:1: altered (zone): its time zone is not known, "
+        "its times are taken as local: Mars/Olympus",
+        "daskel: import: odd.ics:5: altered (end): its end is before its start "
+        "or too far away, and was left out",
+        QString()};
+    const CliResult first = cli.run({"import", "odd.ics"});
+    QCOMPARE(first.error.split('\n'), lines);
+    QCOMPARE(first.out, "new 2, changed 0, same 0, skipped 0\n");
+    QCOMPARE(first.exitCode, 0);
+    const CliResult again = cli.run({"import", "odd.ics"});
+    QCOMPARE(again.error.split('\n'), lines);
+    QCOMPARE(again.out, "new 0, changed 0, same 2, skipped 0\n");
 }
 
 void TestCli::importRefuses_data()
