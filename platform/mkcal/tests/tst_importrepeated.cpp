@@ -4,11 +4,15 @@
 #include "exchange/incidenceimport.h"
 #include "memorybulkwriter.h"
 
+#include <kcalcompat/clock.h>
 #include <mkcal/calendarexporter.h>
+#include <mkcal/calendarimporter.h>
 #include <mkcal/incidencecomparison.h>
+#include <mkcal/sqlitestorage.h>
 
 #include <QBuffer>
 #include <QDirIterator>
+#include <QTemporaryDir>
 #include <QtTest>
 
 #include <ctime>
@@ -47,6 +51,8 @@ class ImportRepeatedTest : public QObject
 private Q_SLOTS:
     void again_data();
     void again();
+    void storedAgain_data() { again_data(); }
+    void storedAgain();
 };
 
 void ImportRepeatedTest::again_data()
@@ -99,6 +105,33 @@ void ImportRepeatedTest::again()
                             + differ.join(QStringLiteral(", ")) + QLatin1Char('\n')
                             + QString::fromUtf8(exported.data())));
     }
+}
+
+/// The same through a database, a day later: nothing may hang on what is only held in memory or on
+/// the moment of the import.
+void ImportRepeatedTest::storedAgain()
+{
+    QFETCH(QString, fileName);
+    QFETCH(QByteArray, zone);
+    setZone(zone);
+    const QTemporaryDir folder;
+    const ExtendedCalendar::Ptr calendar(new ExtendedCalendar(QTimeZone(zone)));
+    const QSharedPointer<SqliteStorage> storage(
+        new SqliteStorage(calendar, folder.filePath(QStringLiteral("calendar.db"))));
+    QVERIFY(storage->open());
+    const auto notebook = Notebook::Ptr::create();
+    QVERIFY(storage->addNotebook(notebook, false) && storage->setDefaultNotebook(notebook));
+
+    QDateTime now(QDate(2026, 3, 10), QTime(12, 0), Qt::UTC);
+    KCalCompat::Clock::setSource([&now] { return now; });
+    ImportReport report;
+    ImportReport repeated;
+    CalendarImporter(storage).importFiles({fileName}, &report);
+    now = now.addDays(1);
+    CalendarImporter(storage).importFiles({fileName}, &repeated);
+    KCalCompat::Clock::setSource({});
+    QCOMPARE(withTwoWholes(repeated.created, repeated.changed), withTwoWholes(0, 0));
+    QCOMPARE(repeated.same, report.same + report.created);
 }
 
 QTEST_GUILESS_MAIN(ImportRepeatedTest)

@@ -32,12 +32,9 @@ struct NotedProperty {
 };
 
 constexpr NotedProperty notedProperties[] = {
-    {"UID", &CalendarComponent::uid},
-    {"RECURRENCE-ID", &CalendarComponent::recurrenceId},
-    {"SEQUENCE", &CalendarComponent::sequence},
-    {"DTSTAMP", &CalendarComponent::stamp},
-    {"CREATED", &CalendarComponent::created},
-    {"LAST-MODIFIED", &CalendarComponent::lastModified},
+    {"UID", &CalendarComponent::uid},           {"RECURRENCE-ID", &CalendarComponent::recurrenceId},
+    {"SEQUENCE", &CalendarComponent::sequence}, {"DTSTAMP", &CalendarComponent::stamp},
+    {"CREATED", &CalendarComponent::created},   {"LAST-MODIFIED", &CalendarComponent::lastModified},
     {"TZID", &CalendarComponent::timeZoneId},
 };
 

@@ -281,6 +281,18 @@ void readAlarms(const Incidence::Ptr &incidence)
         }
     }
 }
+/// A conference whose text names no features has an empty one in ICalFormat.
+void readConferences(const Incidence::Ptr &incidence)
+{
+    KCalCore::Conference::List conferences = incidence->conferences();
+    if (conferences.isEmpty()) {
+        return;
+    }
+    for (KCalCore::Conference &conference : conferences) {
+        conference.removeFeature(QString());
+    }
+    incidence->setConferences(conferences);
+}
 } // namespace
 
 Incidence::Ptr toICalendarConvention(const Incidence::Ptr &incidence)
@@ -332,6 +344,7 @@ void fromICalendarConvention(const Incidence::Ptr &incidence)
         readTodo(todo);
     }
     readAlarms(incidence);
+    readConferences(incidence);
     // Incidence::schedulingID() knows it already.
     incidence->removeCustomProperty("LIBKCAL", "ID");
     incidence->endUpdates();
