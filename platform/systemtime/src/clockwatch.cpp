@@ -14,6 +14,12 @@ namespace Ostra
 {
 namespace Timed
 {
+namespace
+{
+/// The two clocks are read one after the other: what differs by less is no sleep.
+constexpr std::chrono::milliseconds shortestSleep(100);
+} // namespace
+
 ClockWatch::ClockWatch(std::unique_ptr<KernelClock> clock, QObject *parent)
     : QObject(parent), m_clock(std::move(clock)), m_descriptor(m_clock->open())
 {
@@ -23,6 +29,7 @@ ClockWatch::ClockWatch(std::unique_ptr<KernelClock> clock, QObject *parent)
         return;
     }
     m_told = m_clock->aheadOfBoot();
+    m_slept = m_clock->slept();
     m_notifier = std::make_unique<QSocketNotifier>(m_descriptor, QSocketNotifier::Read);
     connect(m_notifier.get(), &QSocketNotifier::activated, this, &ClockWatch::onReadable);
 }
@@ -47,8 +54,12 @@ void ClockWatch::onReadable()
     const auto untold = m_clock->aheadOfBoot() - m_told;
     const auto seconds = std::chrono::round<std::chrono::seconds>(untold);
     m_told += seconds;
+    const auto slept = m_clock->slept();
+    const auto asleep = slept - std::exchange(m_slept, slept);
     if (seconds.count() != 0)
         Q_EMIT jumped(seconds.count());
+    if (asleep >= shortestSleep)
+        Q_EMIT resumed();
 }
 } // namespace Timed
 } // namespace Ostra

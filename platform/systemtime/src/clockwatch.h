@@ -16,7 +16,8 @@ namespace Ostra
 {
 namespace Timed
 {
-/// Notices when the wall clock is set and by how much. Silent where the kernel has no such timer.
+/// Notices when the wall clock is set and by how much, and when the machine wakes from sleep (the
+/// kernel cancels the timer then, too). Silent where the kernel has no such timer.
 class ClockWatch : public QObject
 {
     Q_OBJECT
@@ -27,6 +28,8 @@ public:
 Q_SIGNALS:
     /// As TimeSource::clockJumped().
     void jumped(qint64 seconds);
+    /// As TimeSource::resumed().
+    void resumed();
 
 private:
     void onReadable();
@@ -36,6 +39,7 @@ private:
     std::unique_ptr<QSocketNotifier> m_notifier;
     /// The part of the difference that is known to the listeners.
     std::chrono::nanoseconds m_told{0};
+    std::chrono::nanoseconds m_slept{0};
 };
 } // namespace Timed
 } // namespace Ostra

@@ -52,5 +52,10 @@ std::chrono::nanoseconds KernelClock::aheadOfBoot()
 {
     return now(CLOCK_REALTIME) - now(CLOCK_BOOTTIME);
 }
+
+std::chrono::nanoseconds KernelClock::slept()
+{
+    return now(CLOCK_BOOTTIME) - now(CLOCK_MONOTONIC);
+}
 } // namespace Timed
 } // namespace Ostra

@@ -31,6 +31,8 @@ public:
     /// How far the wall clock is ahead of the time since boot. Time since boot counts sleep and is
     /// slewed as the wall clock is, so that only setting the clock changes the difference.
     virtual std::chrono::nanoseconds aheadOfBoot();
+    /// How long the machine has slept since boot.
+    virtual std::chrono::nanoseconds slept();
 };
 } // namespace Timed
 } // namespace Ostra

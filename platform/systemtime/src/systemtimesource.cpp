@@ -17,6 +17,7 @@ SystemTimeSource::SystemTimeSource(std::unique_ptr<KernelClock> clock, const Zon
       m_toldZone(m_zoneFiles.zoneName())
 {
     connect(&m_clock, &ClockWatch::jumped, this, &TimeSource::clockJumped);
+    connect(&m_clock, &ClockWatch::resumed, this, &TimeSource::resumed);
     connect(&m_zoneFiles, &ZoneWatch::changed, this, [this] { tellZone(m_zoneFiles.zoneName()); });
     QTimer::singleShot(0, this, [this, bus] {
         m_service = std::make_unique<TimedatedWatch>(bus());

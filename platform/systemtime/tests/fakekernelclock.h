@@ -46,6 +46,15 @@ public:
 
     Nanoseconds aheadOfBoot() override { return ahead; }
 
+    Nanoseconds slept() override { return asleep; }
+
+    /// Lets the machine sleep, as the kernel tells it on waking.
+    void sleepFor(Nanoseconds time)
+    {
+        asleep += time;
+        setBy(Nanoseconds(0));
+    }
+
     /// Sets the clock by @p jump, as the kernel tells it.
     void setBy(Nanoseconds jump)
     {
@@ -61,6 +70,7 @@ public:
     bool falseAlarm = false;
     Nanoseconds ahead{std::chrono::hours(365 * 24 * 41)};
     Nanoseconds jumpWhileArming{0};
+    Nanoseconds asleep{std::chrono::hours(7)};
 };
 
 #endif

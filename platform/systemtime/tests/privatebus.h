@@ -27,6 +27,7 @@ public:
     PrivateBus(const PrivateBus &) = delete;
     PrivateBus &operator=(const PrivateBus &) = delete;
 
+    QString address() const { return m_address; }
     /// A connection of its own to the bus for each @p name.
     QDBusConnection connection(const QString &name) const
     {

@@ -25,6 +25,7 @@ private Q_SLOTS:
     void tellsJumpsInWholeSeconds_data();
     void tellsJumpsInWholeSeconds();
     void seesAJumpThatHappensWhileArming();
+    void tellsOfWaking();
     void ignoresAFalseAlarm();
     void isSilentWhereTheKernelRefuses();
     void staysSilentOnTheRealClock();
@@ -74,6 +75,20 @@ void TestClockWatch::seesAJumpThatHappensWhileArming()
     clock->setBy(10s);
     QTRY_COMPARE(spy.count(), 1);
     QCOMPARE(spy.first().first().toLongLong(), 30);
+}
+
+void TestClockWatch::tellsOfWaking()
+{
+    auto owned = std::make_unique<FakeKernelClock>();
+    FakeKernelClock *clock = owned.get();
+    ClockWatch watch(std::move(owned));
+    QSignalSpy jumped(&watch, &ClockWatch::jumped);
+    QSignalSpy resumed(&watch, &ClockWatch::resumed);
+    clock->sleepFor(8h);
+    QTRY_COMPARE(resumed.count(), 1);
+    clock->setBy(5s);
+    QTRY_COMPARE(jumped.count(), 1);
+    QCOMPARE(resumed.count(), 1);
 }
 
 void TestClockWatch::ignoresAFalseAlarm()

@@ -41,6 +41,9 @@ Q_SIGNALS:
     void clockJumped(qint64 seconds);
     /// Another zone was chosen, or the rules of the system's zone were replaced.
     void zoneChanged();
+    /// The machine woke from sleep. The clock went on meanwhile, but timers of the event loop did
+    /// not: what was aimed at a time of day comes late by the length of the sleep.
+    void resumed();
 };
 } // namespace Timed
 } // namespace Ostra
