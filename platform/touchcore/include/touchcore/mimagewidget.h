@@ -1,0 +1,53 @@
+// SPDX-FileCopyrightText: 2026 The daskel authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#ifndef TOUCHCORE_MIMAGEWIDGET_H
+#define TOUCHCORE_MIMAGEWIDGET_H
+
+#include <touchcore/mstylablewidget.h>
+
+class MImageWidgetPrivate;
+
+/// How a picture is shown.
+class MImageWidgetStyle : public MWidgetStyle
+{
+    Q_OBJECT
+    /// Invalid keeps the picture's own colours.
+    M_STYLE_ATTRIBUTE(QColor, tint, setTint)
+    /// The size shown, in pixels at scale 1; empty goes by the picture.
+    M_STYLE_ATTRIBUTE(QSizeF, imageSize, setImageSize)
+};
+
+/// A picture of the theme, as large as fits with its proportions kept, centred.
+class MImageWidget : public MStylableWidget
+{
+    Q_OBJECT
+    M_STYLE(MImageWidgetStyle)
+    Q_PROPERTY(QString image READ image WRITE setImage)
+    Q_PROPERTY(bool mirrored READ isMirrored WRITE setMirrored)
+
+public:
+    explicit MImageWidget(QGraphicsItem *parent = nullptr);
+    explicit MImageWidget(const QString &id, QGraphicsItem *parent = nullptr);
+    ~MImageWidget() override;
+
+    /// The name of the picture; empty shows nothing.
+    QString image() const;
+    void setImage(const QString &id);
+
+    /// Whether the picture points somewhere (an arrow) and so turns round in a right-to-left
+    /// layout. Off by default: pictures of things do not.
+    bool isMirrored() const;
+    void setMirrored(bool isMirrored);
+
+    void paint(QPainter *painter, const QStyleOptionGraphicsItem *option,
+               QWidget *widget = nullptr) override;
+
+protected:
+    QSizeF sizeHint(Qt::SizeHint which, const QSizeF &constraint = QSizeF()) const override;
+
+private:
+    std::unique_ptr<MImageWidgetPrivate> d;
+};
+
+#endif
