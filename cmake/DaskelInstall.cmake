@@ -8,7 +8,7 @@ include(CMakePackageConfigHelpers)
 
 set(DASKEL_PACKAGE_DIR ${CMAKE_INSTALL_LIBDIR}/cmake/daskel)
 
-set(DASKEL_LIBRARIES libdaskel mkcal systemtime kcalcompat)
+set(DASKEL_LIBRARIES libdaskel mkcal systemtime kcalcompat tarvotouchcore)
 install(TARGETS ${DASKEL_LIBRARIES}
     EXPORT daskelTargets
     FILE_SET HEADERS DESTINATION ${DASKEL_INCLUDE_INSTALL_DIR})
