@@ -12,6 +12,7 @@ set(TOUCHCORE_WIDGETS_HEADERS
     include/touchcore/mbuttongroup.h
     include/touchcore/mbuttonstyle.h
     include/touchcore/mbuttonview.h
+    include/touchcore/mbuttonviews.h
 )
 set(TOUCHCORE_WIDGETS_SOURCES
     src/widgets/textblock.cpp
@@ -26,4 +27,6 @@ set(TOUCHCORE_WIDGETS_SOURCES
     src/widgets/mbutton.cpp
     src/widgets/mbuttongroup.cpp
     src/widgets/mbuttonview.cpp
+    src/widgets/mbuttonviews.cpp
+    src/widgets/mbuttongroupview.cpp
 )
