@@ -100,16 +100,29 @@ QPair<QDate, QDate> readRange(const QCommandLineParser &parser, Console &console
     return {from, to};
 }
 
+/// What TZ has to say for a zone. It counts a bare offset west of Greenwich, where "UTC+05:45" lies
+/// east.
+QByteArray tzOf(const QByteArray &name, const QTimeZone &zone)
+{
+    if (!name.startsWith("UTC") || name.size() == 3) {
+        return name;
+    }
+    const int east = zone.offsetFromUtc(KCalCompat::Clock::now());
+    const QTime size = QTime(0, 0).addSecs(qAbs(east));
+    return (east < 0 ? "UTC+" : "UTC-") + size.toString(QStringLiteral("hh:mm")).toLatin1();
+}
+
 /// Makes the program live in that zone: so its clock times and the hour that comes twice are read
 /// as they are there. False after a message.
 bool moveTo(const QString &zoneName, Console &console)
 {
     const QByteArray name = zoneName.toUtf8();
-    if (!KSystemTimeZones::zone(name).isValid()) {
+    const QTimeZone zone = KSystemTimeZones::zone(name);
+    if (!zone.isValid()) {
         console.message(QStringLiteral("--zone: there is no time zone '%1'").arg(zoneName));
         return false;
     }
-    qputenv("TZ", name);
+    qputenv("TZ", tzOf(name, zone));
     KSystemTimeZones().configChanged();
     return true;
 }

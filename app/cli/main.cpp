@@ -3,6 +3,8 @@
 
 #include "commandline.h"
 
+#include <kcalcompat/ksystemtimezones.h>
+
 #include <QCoreApplication>
 #include <QTextCodec>
 
@@ -25,6 +27,7 @@ int main(int argc, char **argv)
     qInstallMessageHandler(leaveOutWarnings);
     // File names and words are UTF-8 also where the locale is "C", as in scripts and services.
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+    KSystemTimeZones().configChanged();
     QCoreApplication app(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("daskel"));
     QCoreApplication::setApplicationVersion(QStringLiteral(DASKEL_VERSION));

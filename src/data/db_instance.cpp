@@ -96,6 +96,7 @@ DbInstance::DbInstance()
     theInstance = this;
     KCalCompat::registerMetaTypes();
     qRegisterMetaType<DbInstance::DbSaveError>();
+    KSystemTimeZones().configChanged();
     // Made here, on the UI thread: the preload may be the first to use it, from the worker.
     ExpandedIncidencesCache::instance();
     d = std::make_unique<DbInstancePrivate>(this);

@@ -40,6 +40,10 @@ private Q_SLOTS:
     void json_data();
     void json();
     void allDayIsTheSameInEveryZone();
+    void systemZones_data();
+    void systemZones();
+    void offsetZones_data();
+    void offsetZones();
     void text_data();
     void text();
     void nothing();
@@ -99,6 +103,75 @@ void TestCliAgenda::allDayIsTheSameInEveryZone()
         QCOMPARE(cli.run(week).out, here);
         cli.environment.insert("TZ", "Europe/Helsinki");
     }
+}
+
+// However the system names its zone, what is bound to the wall clock stands where it stood.
+void TestCliAgenda::systemZones_data()
+{
+    QTest::addColumn<QString>("setting");
+    for (const char *setting :
+         {"Europe/Helsinki", ":/usr/share/zoneinfo/Asia/Tokyo", "UTC", "UTC-5", "UTC+3",
+          "<+0545>-5:45", "EET-2EEST", "EST5EDT,M3.2.0,M11.1.0", "EET-2EEST,M3.5.0/3,M10.5.0/4",
+          "Mars/Olympus"}) {
+        QTest::newRow(setting) << QString::fromUtf8(setting);
+    }
+}
+
+void TestCliAgenda::systemZones()
+{
+    QFETCH(QString, setting);
+    CliRunner cli(setting);
+    const QByteArray components = "BEGIN:VEVENT\r\nUID:a\r\nDTSTART;VALUE=DATE:20260105\r\n"
+                                  "SUMMARY:Bins\r\nRRULE:FREQ=WEEKLY\r\nEND:VEVENT\r\n"
+                                  "BEGIN:VEVENT\r\nUID:b\r\nDTSTART;VALUE=DATE:20260601\r\n"
+                                  "SUMMARY:Trip\r\nDTEND;VALUE=DATE:20260608\r\nEND:VEVENT\r\n"
+                                  "BEGIN:VEVENT\r\nUID:c\r\nDTSTART:20260105T090000\r\n"
+                                  "SUMMARY:Run\r\nDTEND:20260105T093000\r\n"
+                                  "RRULE:FREQ=DAILY;COUNT=149\r\nEND:VEVENT\r\n"
+                                  "BEGIN:VTODO\r\nUID:d\r\nDUE;VALUE=DATE:20260105\r\n"
+                                  "SUMMARY:Water\r\nDTSTART;VALUE=DATE:20260105\r\n"
+                                  "RRULE:FREQ=WEEKLY;BYDAY=TU;UNTIL=20260602\r\nEND:VTODO\r\n";
+    cli.run({"import", cli.write("wall.ics", calendarOf(components).toUtf8())});
+    const CliResult agenda = cli.run({"agenda", "--from", "2026-06-01", "--days", "3"});
+    QCOMPARE(agenda.out,
+             QString::fromUtf8("2026-06-01 Monday\n"
+                               "  all day      Bins  · Personal\n"
+                               "  all day      Trip (day 1 of 7)  · Personal\n"
+                               "  09:00–09:30  Run  · Personal\n"
+                               "\n"
+                               "2026-06-02 Tuesday\n"
+                               "  all day      Trip (day 2 of 7)  · Personal\n"
+                               "  due          [ ] Water  · Personal\n"
+                               "  09:00–09:30  Run  · Personal\n"
+                               "\n"
+                               "2026-06-03 Wednesday\n"
+                               "  all day      Trip (day 3 of 7)  · Personal\n"));
+}
+
+void TestCliAgenda::offsetZones_data()
+{
+    QTest::addColumn<QString>("zone");
+    QTest::addColumn<QString>("start");
+    QTest::newRow("east") << "UTC+05:45"
+                          << "2026-05-01T13:45:00+05:45";
+    QTest::newRow("west") << "UTC-03:30"
+                          << "2026-05-01T04:30:00-03:30";
+    QTest::newRow("none") << "UTC"
+                          << "2026-05-01T08:00:00Z";
+    QTest::newRow("rule") << "EST5EDT"
+                          << "2026-05-01T04:00:00-04:00";
+}
+
+void TestCliAgenda::offsetZones()
+{
+    QFETCH(QString, zone);
+    CliRunner cli;
+    cli.run({"import",
+             cli.write("a.ics",
+                       "BEGIN:VEVENT\r\nUID:a\r\n"
+                       "DTSTART:20260501T080000Z\r\nEND:VEVENT\r\n")});
+    const CliResult agenda = cli.run({"agenda", "--json", "--from", "2026-05-01", "--zone", zone});
+    QTEST(toArray(agenda.out).first().toObject().value("start").toString(), "start");
 }
 
 void TestCliAgenda::text_data()

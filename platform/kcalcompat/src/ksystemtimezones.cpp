@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
 #include "ksystemtimezones_p.h"
+#include "systemclock_p.h"
 
 #include <kcalcompat/ksystemtimezones.h>
 
@@ -18,12 +19,23 @@ struct KeptZones {
     std::mutex mutex;
     QHash<QByteArray, QTimeZone> named;
     std::optional<QTimeZone> system;
+    QByteArray setting; ///< what stood in TZ before the stand-in; null for nothing
+    QByteArray standIn; ///< what was put there; null while that was not needed
 };
 
 KeptZones &keptZones()
 {
     static KeptZones zones;
     return zones;
+}
+
+void setTz(const QByteArray &setting)
+{
+    if (setting.isNull())
+        qunsetenv("TZ");
+    else
+        qputenv("TZ", setting);
+    tzset();
 }
 } // namespace
 
@@ -69,10 +81,17 @@ QTimeZone KSystemTimeZones::utc()
 
 void KSystemTimeZones::configChanged()
 {
-    // For calls of the C library; Qt looks at TZ and /etc/localtime anew each time it is asked.
-    tzset();
     KeptZones &kept = keptZones();
     const std::lock_guard<std::mutex> lock(kept.mutex);
+    // Whoever has set TZ since is right.
+    if (!kept.standIn.isNull() && qgetenv("TZ") == kept.standIn)
+        setTz(kept.setting);
+    else
+        tzset();
+    kept.setting = qEnvironmentVariableIsSet("TZ") ? qgetenv("TZ") : QByteArray();
+    kept.standIn = KCalCompat::SystemClock().standIn();
+    if (!kept.standIn.isNull())
+        setTz(kept.standIn);
     kept.system.reset();
 }
 

@@ -29,7 +29,9 @@ class TestKSystemTimeZones : public QObject
 
 private Q_SLOTS:
     void localZoneIsReadAgainWhenToldSo();
-    void unreadableSettingStillGivesAnOffset();
+    void everySettingIsOneClock_data();
+    void everySettingIsOneClock();
+    void standInGoesWithItsSetting();
     void namedZones_data();
     void namedZones();
     void threadsShareTheZones();
@@ -59,20 +61,71 @@ void TestKSystemTimeZones::localZoneIsReadAgainWhenToldSo()
     QCOMPARE(KSystemTimeZones::local().id(), QByteArray("Asia/Tokyo"));
 }
 
-void TestKSystemTimeZones::unreadableSettingStillGivesAnOffset()
+void TestKSystemTimeZones::everySettingIsOneClock_data()
 {
-    const SystemZone rule("EET-2EEST,M3.5.0/3,M10.5.0/4");
-    QVERIFY(!QTimeZone::systemTimeZone().isValid());
-    QVERIFY(KSystemTimeZones::local().isValid());
-    // The zone has one offset alone, while a local time knows summer and winter.
-    const KDateTime summer(QDate(2011, 7, 1), QTime(12, 0));
-    const KDateTime winter(QDate(2011, 1, 1), QTime(12, 0));
-    QVERIFY(summer.isLocalZone());
-    QCOMPARE(summer.utcOffset(), 3 * 3600);
-    QCOMPARE(winter.utcOffset(), 2 * 3600);
-    QCOMPARE(KDateTime(QDate(2011, 3, 27), QTime(3, 30)).time(), QTime(4, 30));
-    QCOMPARE(summer.toString(), QStringLiteral("2011-07-01T12:00:00+03:00"));
-    QCOMPARE(summer.toUtc().toLocalZone().time(), QTime(12, 0));
+    QTest::addColumn<QByteArray>("setting");
+    QTest::addColumn<int>("winter"); // minutes east of Greenwich
+    QTest::addColumn<int>("summer");
+    const auto row = [](const char *setting, int winter, int summer) {
+        QTest::newRow(setting) << QByteArray(setting) << winter << summer;
+    };
+    row("Europe/Helsinki", 120, 180);
+    row(":Europe/Helsinki", 120, 180);
+    row("/usr/share/zoneinfo/Europe/Helsinki", 120, 180);
+    row("Australia/Lord_Howe", 660, 630);
+    row("Etc/GMT+5", -300, -300);
+    row("UTC", 0, 0);
+    row("UTC0", 0, 0);
+    row("UTC-5", 300, 300);
+    row("UTC+3", -180, -180);
+    row("UTC+3:30", -210, -210);
+    row("UTC-05:45", 345, 345);
+    row("<+0330>-3:30", 210, 210);
+    row("EET-2EEST", 120, 180);
+    row("EET-2EEST,M3.5.0/3,M10.5.0/4", 120, 180);
+    row("EET-2EEST-3,M3.5.0/3,M10.5.0/4", 120, 180);
+    row("AEST-10AEDT,M10.1.0,M4.1.0/3", 660, 600);
+    // The C library shows UTC for what it does not know.
+    row("Mars/Olympus", 0, 0);
+}
+
+void TestKSystemTimeZones::everySettingIsOneClock()
+{
+    QFETCH(QByteArray, setting);
+    QFETCH(int, winter);
+    QFETCH(int, summer);
+    const SystemZone zone(setting);
+    // Told once more, for the stand-in of the first time is no setting.
+    KSystemTimeZones().configChanged();
+    const QTimeZone local = KSystemTimeZones::local();
+    QVERIFY(QTimeZone::systemTimeZone() == local);
+    const QPair<QDate, int> days[] = {{QDate(2026, 1, 10), winter}, {QDate(2026, 7, 10), summer}};
+    for (const auto &day : days) {
+        const QTime time(9, 30);
+        const QDateTime moment = QDateTime(day.first, time, Qt::UTC).addSecs(-day.second * 60);
+        QCOMPARE(QDateTime(day.first, time), moment);
+        QCOMPARE(QDateTime(day.first, time, local), moment);
+        QCOMPARE(local.offsetFromUtc(moment), day.second * 60);
+        QCOMPARE(KDateTime(day.first, time).utcOffset(), day.second * 60);
+        QCOMPARE(KDateTime(day.first, time, KDateTime::Spec::ClockTime()).toUtc(),
+                 KDateTime(moment));
+    }
+    // The hours of the changes are those of the setting.
+    if (setting.endsWith(",M3.5.0/3,M10.5.0/4")) {
+        const QDateTime change(QDate(2026, 3, 29), QTime(1, 0), Qt::UTC);
+        QCOMPARE(local.offsetFromUtc(change.addSecs(-1)), 7200);
+        QCOMPARE(local.offsetFromUtc(change), 10800);
+    }
+}
+
+void TestKSystemTimeZones::standInGoesWithItsSetting()
+{
+    const SystemZone rule("EET-2EEST");
+    QVERIFY(qgetenv("TZ") != "EET-2EEST");
+    qputenv("TZ", "Asia/Tokyo");
+    KSystemTimeZones().configChanged();
+    QCOMPARE(qgetenv("TZ"), QByteArray("Asia/Tokyo"));
+    QCOMPARE(KSystemTimeZones::local().id(), QByteArray("Asia/Tokyo"));
 }
 
 void TestKSystemTimeZones::namedZones_data()
