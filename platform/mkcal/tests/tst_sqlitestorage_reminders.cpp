@@ -36,6 +36,7 @@ private Q_SLOTS:
     void openingExtendsTheHorizonOfSeries();
     void openedIncidenceIsDismissed();
     void importedAlarmsArePlanned();
+    void importKeepsRemindersOfTheFamily();
     void resetPlansGivenIncidencesOnly();
     void failedSavePlansNothing();
 
@@ -178,6 +179,20 @@ void TestStorageReminders::importedAlarmsArePlanned()
     QVERIFY(writer->remove("series", KDateTime()));
     QVERIFY(writer->commit());
     QCOMPARE(times(*opened), QStringList{"20.03. 06:45"});
+}
+
+void TestStorageReminders::importKeepsRemindersOfTheFamily()
+{
+    const auto opened = m_fixture->open();
+    const auto series = daily("meeting", at(2026, 3, 9, 9), 5);
+    const auto write = [&](const KCalCore::Incidence::Ptr &incidence) {
+        const auto writer = opened->storage->bulkWriter();
+        return writer->write(withAlarm(incidence), "work") && writer->commit();
+    };
+    QVERIFY(write(exception(series, at(2026, 3, 12, 9), at(2026, 3, 12, 18))));
+    // What the exception belonged to does not recur any more.
+    QVERIFY(write(meeting("meeting", at(2026, 3, 20, 9))));
+    QCOMPARE(times(*opened), QStringList({"12.03. 15:45", "20.03. 06:45"}));
 }
 
 void TestStorageReminders::resetPlansGivenIncidencesOnly()

@@ -27,7 +27,11 @@ bool SqliteBulkWriter::begin()
         m_storage.connection.noteError(m_connection.lastError().extended);
         return false;
     }
+    // Rows of a large import lie all over the indexes: with few pages at hand most are read again.
+    m_connection.execute("PRAGMA cache_size = -32000");
     m_tables = std::make_unique<Tables>(m_connection);
+    m_schedule =
+        std::make_unique<ReminderSchedule>(m_connection, *m_tables, m_storage.calendar->timeZone());
     m_transaction = std::make_unique<Transaction>(m_connection);
     if (!m_transaction->isActive() || !m_tables->meta.bump(m_storage.writerId, &m_change)) {
         m_storage.connection.noteError(m_connection.lastError().extended);
@@ -45,7 +49,8 @@ bool SqliteBulkWriter::isWritable()
 KCalCore::Incidence::Ptr SqliteBulkWriter::find(const QString &uid, const KDateTime &recurrenceId)
 {
     KCalCore::Incidence::Ptr found;
-    if (!isWritable())
+    QString home;
+    if (!isWritable() || !findNotebook(uid, &home) || home.isEmpty())
         return found;
     const bool read =
         m_tables->reader.read("state = 0 AND uid = ? AND recId = ?", {uid, recIdText(recurrenceId)},
@@ -61,9 +66,20 @@ KCalCore::Incidence::Ptr SqliteBulkWriter::find(const QString &uid, const KDateT
 QString SqliteBulkWriter::notebook(const QString &uid)
 {
     QString notebook;
-    if (isWritable() && !m_tables->writer.notebookOf(uid, &notebook))
-        fail();
+    if (isWritable())
+        findNotebook(uid, &notebook);
     return notebook;
+}
+
+bool SqliteBulkWriter::findNotebook(const QString &uid, QString *notebook)
+{
+    if (uid.isEmpty() || uid != m_lastUid) {
+        if (!m_tables->writer.notebookOf(uid, &m_lastNotebook))
+            return fail();
+        m_lastUid = uid;
+    }
+    *notebook = m_lastNotebook;
+    return true;
 }
 
 bool SqliteBulkWriter::write(const KCalCore::Incidence::Ptr &incidence, const QString &notebookUid)
@@ -75,41 +91,64 @@ bool SqliteBulkWriter::write(const KCalCore::Incidence::Ptr &incidence, const QS
         incidence->setCreated(now);
     if (!incidence->lastModified().isValid())
         incidence->setLastModified(now);
+    QString home;
+    if (!findNotebook(incidence->uid(), &home))
+        return false;
     StoredComponent stored;
-    if (!m_tables->writer.find(incidence->uid(), recIdText(*incidence), &stored))
+    if (!home.isEmpty() && !m_tables->writer.find(incidence->uid(), recIdText(*incidence), &stored))
         return fail();
-    // Most of an import rings nothing and has no family: nothing to plan, nothing to read again.
-    if (stored.id != 0 || incidence->hasEnabledAlarms() || incidence->hasRecurrenceId())
-        m_toPlan.insert(incidence->uid());
-    return stored.id != 0
-        ? m_tables->writer.update(stored, *incidence, stored.notebook, m_change) || fail()
-        : insert(*incidence, notebookUid);
+    if (stored.id == 0) {
+        const QString target = home.isEmpty() ? notebookUid : home;
+        return insert(incidence, target) && planInserted(incidence, target, home.isEmpty());
+    }
+    m_toPlan.insert(incidence->uid());
+    return m_tables->writer.update(stored, *incidence, stored.notebook, m_change) || fail();
 }
 
-bool SqliteBulkWriter::insert(const KCalCore::Incidence &incidence, const QString &notebookUid)
+bool SqliteBulkWriter::insert(const KCalCore::Incidence::Ptr &incidence, const QString &notebookUid)
 {
-    QString target;
-    if (!m_tables->writer.notebookOf(incidence.uid(), &target))
-        return fail();
-    if (target.isEmpty())
-        target = notebookUid;
-    bool isKnown = false;
-    if (!m_tables->notebooks.exists(target, &isKnown))
-        return fail();
-    if (!isKnown) {
-        m_errorMessage =
-            QStringLiteral("%1: there is no notebook \"%2\"").arg(m_storage.fileName, target);
+    if (!isKnownNotebook(notebookUid))
         return false;
-    }
-    return (m_tables->writer.removeTombstones(incidence.uid(), recIdText(incidence))
-            && m_tables->writer.insert(incidence, target, m_change))
+    m_lastUid = incidence->uid();
+    m_lastNotebook = notebookUid;
+    return (m_tables->writer.removeTombstones(incidence->uid(), recIdText(*incidence))
+            && m_tables->writer.insert(*incidence, notebookUid, m_change))
         || fail();
+}
+
+/// Most of an import rings nothing or has no family: nothing is to be read again to plan it.
+bool SqliteBulkWriter::planInserted(const KCalCore::Incidence::Ptr &incidence,
+                                    const QString &notebookUid, bool isFirstOfFamily)
+{
+    const bool isAlone = isFirstOfFamily && !incidence->hasRecurrenceId();
+    if (isAlone && !incidence->hasEnabledAlarms())
+        return true;
+    if (isAlone && !incidence->recurs())
+        return m_schedule->plan(incidence->uid(), {incidence}, notebookUid) || fail();
+    m_toPlan.insert(incidence->uid());
+    return true;
+}
+
+bool SqliteBulkWriter::isKnownNotebook(const QString &uid)
+{
+    if (uid == m_knownNotebook && !uid.isEmpty())
+        return true;
+    bool isKnown = false;
+    if (!m_tables->notebooks.exists(uid, &isKnown))
+        return fail();
+    if (isKnown)
+        m_knownNotebook = uid;
+    else
+        m_errorMessage =
+            QStringLiteral("%1: there is no notebook \"%2\"").arg(m_storage.fileName, uid);
+    return isKnown;
 }
 
 bool SqliteBulkWriter::remove(const QString &uid, const KDateTime &recurrenceId)
 {
     if (!isWritable())
         return false;
+    m_lastUid.clear();
     const QString recId = recIdText(recurrenceId);
     QStringList recIds{recId};
     if (recId.isEmpty()) {
@@ -135,9 +174,8 @@ bool SqliteBulkWriter::remove(const QString &uid, const KDateTime &recurrenceId)
 
 bool SqliteBulkWriter::planReminders()
 {
-    ReminderSchedule schedule(m_connection, *m_tables, m_storage.calendar->timeZone());
     for (const QString &uid : qAsConst(m_toPlan)) {
-        if (!schedule.planStored(uid))
+        if (!m_schedule->planStored(uid))
             return false;
     }
     return true;
@@ -173,6 +211,7 @@ void SqliteBulkWriter::end()
     if (!m_transaction)
         return;
     m_transaction.reset();
+    m_schedule.reset();
     m_tables.reset();
     m_connection.close();
     const std::lock_guard<std::recursive_mutex> lock(m_storage.mutex);

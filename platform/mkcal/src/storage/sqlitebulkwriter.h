@@ -14,6 +14,7 @@
 
 namespace mKCal
 {
+class ReminderSchedule;
 class SqliteStoragePrivate;
 struct Tables;
 
@@ -38,8 +39,13 @@ public:
 
 private:
     bool isWritable();
-    bool insert(const KCalCore::Incidence &incidence, const QString &notebookUid);
-    bool removeExceptions(const QString &uid);
+    bool insert(const KCalCore::Incidence::Ptr &incidence, const QString &notebookUid);
+    /// Whether the database could be asked. An import asks for each UID several times: the last
+    /// answer is kept.
+    bool findNotebook(const QString &uid, QString *notebook);
+    bool isKnownNotebook(const QString &uid);
+    bool planInserted(const KCalCore::Incidence::Ptr &incidence, const QString &notebookUid,
+                      bool isFirstOfFamily);
     bool planReminders();
     /// Gives the transaction up; answers false.
     bool fail();
@@ -48,8 +54,12 @@ private:
     SqliteStoragePrivate &m_storage;
     Connection m_connection;
     std::unique_ptr<Tables> m_tables;
+    std::unique_ptr<ReminderSchedule> m_schedule;
     std::unique_ptr<Transaction> m_transaction;
     qint64 m_change = 0;
+    QString m_lastUid; ///< what findNotebook() was asked for last
+    QString m_lastNotebook;
+    QString m_knownNotebook; ///< the last one that was found to be there
     QSet<QString> m_toPlan; ///< the UIDs whose reminders may have changed
     QString m_errorMessage;
 };
