@@ -45,6 +45,12 @@ public:
     int enumeration(const Statement &row, int column, int most);
     QDateTime moment(const Statement &row, int column);
 
+    // What a new incidence costs most is its random identifiers, which are replaced here: copies of
+    // empty ones are made in a tenth of the time.
+    const Event emptyEvent;
+    const Todo emptyTodo;
+    const Journal emptyJournal;
+
     Connection &connection;
     std::map<QByteArray, std::unique_ptr<Statement>> queries; ///< by their condition
     DateTimeReader dateTimes;
@@ -71,11 +77,11 @@ Incidence::Ptr ComponentReaderPrivate::create(const Statement &row)
 {
     const qint64 type = row.integer(Type);
     if (type == ComponentType::Event)
-        return Event::Ptr::create();
+        return Event::Ptr::create(emptyEvent);
     if (type == ComponentType::Todo)
-        return Todo::Ptr::create();
+        return Todo::Ptr::create(emptyTodo);
     if (type == ComponentType::Journal)
-        return Journal::Ptr::create();
+        return Journal::Ptr::create(emptyJournal);
     return {};
 }
 
