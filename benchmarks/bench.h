@@ -124,5 +124,6 @@ void measureStorage(const Bench &bench);
 void measureImport(const Bench &bench);
 void measureCalendar(const Bench &bench);
 void measureCache(const Bench &bench);
+void measureLocale(const Bench &bench);
 
 #endif

@@ -46,6 +46,7 @@ int main(int argc, char *argv[])
         measureImport(bench);
         measureCalendar(bench);
         measureCache(bench);
+        measureLocale(bench);
     }
     return 0;
 }
