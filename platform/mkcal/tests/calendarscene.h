@@ -110,15 +110,31 @@ Pointer exception(const Pointer &series, const QDateTime &recurrenceId, const QS
     return exception;
 }
 
-/// "uid 2011-05-01 10:00 > 2011-05-01 11:00", as the calendar's clock shows it.
+/// @p incidence after @p edit.
+template <typename Pointer, typename Edit> Pointer with(const Pointer &incidence, const Edit &edit)
+{
+    edit(*incidence);
+    return incidence;
+}
+
+/// "05-01 10:00", with the year when it is not 2011, in which most scenes play.
+inline QString shortText(const QDateTime &time)
+{
+    return time.toString(time.date().year() == 2011 ? QStringLiteral("MM-dd hh:mm")
+                                                    : QStringLiteral("yyyy-MM-dd hh:mm"));
+}
+
+/// "uid 05-01 10:00 > 11:00" or "uid 05-01 10:00 > 05-02 09:00", as the calendar's clock shows it.
 inline QStringList shown(const mKCal::ExtendedCalendar::ExpandedIncidenceList &list)
 {
     QStringList lines;
-    const QString format = QStringLiteral("yyyy-MM-dd hh:mm");
     for (const auto &occurrence : list) {
-        lines.append(QStringLiteral("%1 %2 > %3")
-                         .arg(occurrence.second->uid(), occurrence.first.dtStart.toString(format),
-                              occurrence.first.dtEnd.toString(format)));
+        const QDateTime &start = occurrence.first.dtStart;
+        const QDateTime &end = occurrence.first.dtEnd;
+        lines.append(occurrence.second->uid() + QLatin1Char(' ') + shortText(start)
+                     + QStringLiteral(" > ")
+                     + (end.date() == start.date() ? end.toString(QStringLiteral("hh:mm"))
+                                                   : shortText(end)));
     }
     return lines;
 }
@@ -141,6 +157,40 @@ inline QStringList agenda(const mKCal::ExtendedCalendar &calendar, const QString
     const QDateTime end = at(to, zone);
     KCalCore::Incidence::List incidences = calendar.incidences(start.date(), end.date());
     return shown(calendar.expandRecurrences(&incidences, KDateTime(start), KDateTime(end), 1000));
+}
+
+// A table of agendas.
+
+/// What is in a calendar.
+using Family = KCalCore::Incidence::List;
+
+inline void agendaColumns()
+{
+    QTest::addColumn<Family>("family");
+    QTest::addColumn<QString>("from");
+    QTest::addColumn<QString>("to");
+    QTest::addColumn<QStringList>("expected");
+    QTest::addColumn<QByteArray>("zone");
+}
+
+inline void agendaRow(const char *name, const Family &family, const QString &from,
+                      const QString &to, const QStringList &expected,
+                      const QByteArray &zone = "Europe/Helsinki")
+{
+    QTest::newRow(name) << family << from << to << expected << zone;
+}
+
+inline void checkAgenda()
+{
+    QFETCH(Family, family);
+    QFETCH(QString, from);
+    QFETCH(QString, to);
+    QFETCH(QByteArray, zone);
+    mKCal::ExtendedCalendar calendar{QTimeZone(zone)};
+    for (const auto &incidence : qAsConst(family)) {
+        calendar.addIncidence(incidence);
+    }
+    QTEST(agenda(calendar, from, to), "expected");
 }
 } // namespace CalendarScene
 

@@ -9,148 +9,94 @@ using namespace KCalCore;
 
 namespace
 {
+Feature journal(const char *name, const std::function<void(Journal &)> &give)
+{
+    return feature(name, plainJournal(), give);
+}
+
+Feature todo(const char *name, const std::function<void(Todo &)> &give)
+{
+    return feature(name, plainTodo(), give);
+}
+
 Features journals()
 {
     return {
-        feature<Journal>(
-            "journal with a long text", plainJournal(),
-            [](Journal &journal) {
-                journal.setSummary(QStringLiteral("Title"), false);
-                journal.setDescription(QStringLiteral("Dear diary"), false);
-            },
-            [](const Journal &journal) {
-                return journal.description() == QLatin1String("Dear diary");
-            }),
-        feature<Journal>(
-            "journal of a day", plainJournal(),
-            [](Journal &journal) {
-                journal.setDtStart(floating(2011, 5, 2));
-                journal.setAllDay(true);
-            },
-            [](const Journal &journal) { return journal.allDay(); }),
-        feature<Journal>(
-            "journal without a date", plainJournal(),
-            [](Journal &journal) { journal.setDtStart(QDateTime()); },
-            [](const Journal &journal) { return !journal.dtStart().isValid(); }),
-        feature<Journal>(
-            "final journal", plainJournal(),
-            [](Journal &journal) { journal.setStatus(Incidence::StatusFinal); },
-            [](const Journal &journal) { return journal.status() == Incidence::StatusFinal; }),
-        feature<Journal>(
-            "recurring journal", plainJournal(),
-            [](Journal &journal) { journal.recurrence()->setWeekly(2); },
-            [](const Journal &journal) {
-                return journal.recurs() && journal.recurrence()->frequency() == 2;
-            }),
+        journal("journal with a long text",
+                [](Journal &journal) {
+                    journal.setSummary("Title", false);
+                    journal.setDescription("Dear diary", false);
+                }),
+        journal("journal of a day",
+                [](Journal &journal) {
+                    journal.setDtStart(floating(2011, 5, 2));
+                    journal.setAllDay(true);
+                }),
+        journal("journal without a date",
+                [](Journal &journal) { journal.setDtStart(QDateTime()); }),
+        journal("final journal",
+                [](Journal &journal) { journal.setStatus(Incidence::StatusFinal); }),
+        journal("recurring journal", [](Journal &journal) { journal.recurrence()->setWeekly(2); }),
     };
 }
 
 Features completions()
 {
     return {
-        feature<Todo>(
-            "half done", plainTodo(), [](Todo &todo) { todo.setPercentComplete(50); },
-            [](const Todo &todo) { return todo.percentComplete() == 50 && !todo.isCompleted(); }),
-        feature<Todo>(
-            "completed at a moment", plainTodo(),
-            [](Todo &todo) { todo.setCompleted(utc(2011, 5, 2, 9)); },
-            [](const Todo &todo) {
-                return todo.isCompleted() && todo.completed() == utc(2011, 5, 2, 9)
-                    && todo.percentComplete() == 100;
-            }),
-        feature<Todo>(
-            "completed, nobody knows when", plainTodo(),
-            [](Todo &todo) { todo.setCompleted(true); },
-            [](const Todo &todo) { return todo.isCompleted() && !todo.hasCompletedDate(); }),
-        feature<Todo>(
-            "completed by its status", plainTodo(),
-            [](Todo &todo) { todo.setStatus(Incidence::StatusCompleted); },
-            [](const Todo &todo) {
-                return todo.status() == Incidence::StatusCompleted && todo.isCompleted();
-            }),
-        feature<Todo>(
-            "in process", plainTodo(),
-            [](Todo &todo) { todo.setStatus(Incidence::StatusInProcess); },
-            [](const Todo &todo) { return todo.status() == Incidence::StatusInProcess; }),
-        feature<Todo>(
-            "needs action", plainTodo(),
-            [](Todo &todo) { todo.setStatus(Incidence::StatusNeedsAction); },
-            [](const Todo &todo) { return todo.status() == Incidence::StatusNeedsAction; }),
-        feature<Todo>(
-            "recurring to-do that was done once", plainTodo(),
-            [](Todo &todo) {
-                todo.recurrence()->setDaily(1);
-                todo.setCompleted(utc(2011, 5, 3));
-            },
-            [](const Todo &todo) {
-                return todo.recurs() && todo.dtRecurrence() > todo.dtDue(true)
-                    && todo.dtStart(true) == helsinki(2011, 5, 2);
-            }),
-        feature<Todo>(
-            "recurring to-do that is all done", plainTodo(),
-            [](Todo &todo) {
-                todo.setCompleted(utc(2011, 5, 3));
-                todo.recurrence()->setDaily(1);
-            },
-            [](const Todo &todo) {
-                return todo.recurs() && todo.isCompleted() && todo.completed() == utc(2011, 5, 3);
-            }),
+        todo("half done", [](Todo &todo) { todo.setPercentComplete(50); }),
+        todo("completed at a moment", [](Todo &todo) { todo.setCompleted(utc(2011, 5, 2, 9)); }),
+        todo("completed, nobody knows when", [](Todo &todo) { todo.setCompleted(true); }),
+        todo("completed by its status",
+             [](Todo &todo) { todo.setStatus(Incidence::StatusCompleted); }),
+        todo("in process", [](Todo &todo) { todo.setStatus(Incidence::StatusInProcess); }),
+        todo("needs action", [](Todo &todo) { todo.setStatus(Incidence::StatusNeedsAction); }),
+        todo("recurring to-do that was done once",
+             [](Todo &todo) {
+                 todo.recurrence()->setDaily(1);
+                 todo.setCompleted(utc(2011, 5, 3));
+             }),
+        todo("recurring to-do that is all done",
+             [](Todo &todo) {
+                 todo.setCompleted(utc(2011, 5, 3));
+                 todo.recurrence()->setDaily(1);
+             }),
+    };
+}
+
+Features dates()
+{
+    return {
+        todo("due without a start", [](Todo &todo) { todo.setDtStart(QDateTime()); }),
+        todo("start without due", [](Todo &todo) { todo.setDtDue(QDateTime(), true); }),
+        todo("no dates",
+             [](Todo &todo) {
+                 todo.setDtStart(QDateTime());
+                 todo.setDtDue(QDateTime(), true);
+             }),
+        todo("due all day",
+             [](Todo &todo) {
+                 todo.setDtStart(floating(2011, 5, 2));
+                 todo.setDtDue(floating(2011, 5, 4), true);
+                 todo.setAllDay(true);
+             }),
+        todo("due before it starts", [](Todo &todo) { todo.setDtDue(helsinki(2011, 5, 1), true); }),
+        todo("recurring to-do without a start",
+             [](Todo &todo) {
+                 todo.setDtStart(QDateTime());
+                 todo.recurrence()->setWeekly(1);
+             }),
+        todo("to-do with an alarm before it is due",
+             [](Todo &todo) { todo.newAlarm()->setEndOffset(Duration(-3600)); }),
+        todo("to-do with a length",
+             [](Todo &todo) {
+                 todo.setDtDue(QDateTime(), true);
+                 todo.setDuration(Duration(7200));
+             }),
     };
 }
 } // namespace
 
 Features todoAndJournalFeatures()
 {
-    return journals() + completions()
-        + Features{
-            feature<Todo>(
-                "due without a start", plainTodo(),
-                [](Todo &todo) { todo.setDtStart(QDateTime()); },
-                [](const Todo &todo) { return !todo.hasStartDate() && todo.hasDueDate(); }),
-            feature<Todo>(
-                "start without due", plainTodo(),
-                [](Todo &todo) { todo.setDtDue(QDateTime(), true); },
-                [](const Todo &todo) { return todo.hasStartDate() && !todo.hasDueDate(); }),
-            feature<Todo>(
-                "no dates", plainTodo(),
-                [](Todo &todo) {
-                    todo.setDtStart(QDateTime());
-                    todo.setDtDue(QDateTime(), true);
-                },
-                [](const Todo &todo) { return !todo.hasStartDate() && !todo.hasDueDate(); }),
-            feature<Todo>(
-                "due all day", plainTodo(),
-                [](Todo &todo) {
-                    todo.setDtStart(floating(2011, 5, 2));
-                    todo.setDtDue(floating(2011, 5, 4), true);
-                    todo.setAllDay(true);
-                },
-                [](const Todo &todo) {
-                    return todo.allDay() && todo.dtDue(true) == floating(2011, 5, 4);
-                }),
-            feature<Todo>(
-                "due before it starts", plainTodo(),
-                [](Todo &todo) { todo.setDtDue(helsinki(2011, 5, 1), true); },
-                [](const Todo &todo) { return todo.dtDue(true) == helsinki(2011, 5, 1); }),
-            feature<Todo>(
-                "recurring to-do without a start", plainTodo(),
-                [](Todo &todo) {
-                    todo.setDtStart(QDateTime());
-                    todo.recurrence()->setWeekly(1);
-                },
-                [](const Todo &todo) { return todo.recurs() && !todo.hasStartDate(); }),
-            feature<Todo>(
-                "to-do with an alarm before it is due", plainTodo(),
-                [](Todo &todo) { todo.newAlarm()->setEndOffset(Duration(-3600)); },
-                [](const Todo &todo) {
-                    return todo.alarms().size() == 1 && todo.alarms().first()->hasEndOffset();
-                }),
-            feature<Todo>(
-                "to-do with a length", plainTodo(),
-                [](Todo &todo) {
-                    todo.setDtDue(QDateTime(), true);
-                    todo.setDuration(Duration(7200));
-                },
-                [](const Todo &todo) { return todo.duration() == Duration(7200); }),
-        };
+    return journals() + completions() + dates();
 }

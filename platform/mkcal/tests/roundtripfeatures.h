@@ -19,7 +19,6 @@ struct Feature {
     QByteArray name;
     KCalCore::Incidence::Ptr plain; ///< without it
     std::function<void(KCalCore::Incidence &)> give;
-    std::function<bool(const KCalCore::Incidence &)> has;
 };
 Q_DECLARE_METATYPE(Feature)
 
@@ -66,14 +65,15 @@ inline KCalCore::Journal::Ptr plainJournal()
 
 template <typename Type>
 Feature feature(const char *name, const QSharedPointer<Type> &plain,
-                const std::function<void(Type &)> &give,
-                const std::function<bool(const Type &)> &has)
+                const std::function<void(Type &)> &give)
 {
     return {name, plain,
-            [give](KCalCore::Incidence &incidence) { give(static_cast<Type &>(incidence)); },
-            [has](const KCalCore::Incidence &incidence) {
-                return has(static_cast<const Type &>(incidence));
-            }};
+            [give](KCalCore::Incidence &incidence) { give(static_cast<Type &>(incidence)); }};
+}
+
+inline Feature event(const char *name, const std::function<void(KCalCore::Event &)> &give)
+{
+    return feature(name, plainEvent(), give);
 }
 
 using Features = QVector<Feature>;

@@ -10,9 +10,7 @@ daskel_add_test(tst_roundtrip
         roundtrip_times.cpp
         roundtrip_todos.cpp
     LINK mkcal)
-daskel_add_test(tst_schema
-    SOURCES sqlitefixtures.qrc
-    LINK mkcal SQLite::SQLite3)
+daskel_add_test(tst_schema LINK mkcal SQLite::SQLite3)
 daskel_add_test(tst_sqliteconnection LINK mkcal SQLite::SQLite3)
 daskel_add_test(tst_sqlitecomponents LINK mkcal)
 daskel_add_test(tst_sqlitehostile

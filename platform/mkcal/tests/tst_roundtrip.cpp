@@ -9,11 +9,27 @@
 
 #include <mkcal/incidencecomparison.h>
 
+#include <KCalendarCore/ICalFormat>
+
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QtTest>
 
 using namespace KCalCore;
 using namespace mKCal;
+
+namespace
+{
+/// What KCalendarCore makes of it, on which our own comparison has no say: without the moment of
+/// writing and the places in memory that stand in for identifiers. A copy is written, since writing
+/// changes some to-dos.
+QString asText(const Incidence &incidence)
+{
+    QString text = ICalFormat().toString(Incidence::Ptr(incidence.clone()));
+    text.remove("\r\n ");
+    return text.remove(QRegularExpression("DTSTAMP:\\w+|X-UID=\\d+"));
+}
+} // namespace
 
 /// Everything that leaves the calendar comes back equal, through a connection of another's.
 class TestRoundTrip : public QObject
@@ -106,8 +122,6 @@ void TestRoundTrip::comesBack()
     const Incidence &plain = *feature.plain;
     const Incidence::Ptr rich(plain.clone());
     feature.give(*rich);
-    QVERIFY2(feature.has(*rich), "KCalendarCore does not hold it");
-    QVERIFY(!feature.has(plain));
     const bool compared = feature.name != "created" && feature.name != "last modified";
     QCOMPARE(differences(plain, *rich).isEmpty(), !compared);
     QCOMPARE(sameContent(plain, *rich), !compared);
@@ -117,7 +131,7 @@ void TestRoundTrip::comesBack()
     QVERIFY(loaded);
     QCOMPARE(differences(*rich, *loaded), QStringList());
     QVERIFY(sameContent(*rich, *loaded));
-    QVERIFY(feature.has(*loaded));
+    QCOMPARE(asText(*loaded), asText(*rich));
     QCOMPARE(loaded->created(), rich->created());
     QCOMPARE(loaded->lastModified(), rich->lastModified());
     QVERIFY(loaded->dirtyFields().isEmpty());

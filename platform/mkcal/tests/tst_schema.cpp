@@ -6,6 +6,7 @@
 #include "sqlite/schema.h"
 #include "sqlite/statement.h"
 
+#include <QCryptographicHash>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -43,6 +44,21 @@ QStringList texts(Connection &connection, const QByteArray &query)
     return result;
 }
 
+/// What made the files of version 0, and an event in it.
+QByteArray firstVersion()
+{
+    return contents(QStringLiteral(":/mkcal/schema/0.sql")) + R"(
+INSERT INTO Notebooks VALUES ('nb', 1, 'Work', '', '#ff0000', 0, 1, 0, 0, 1, 0, 1, 1, 1,
+    NULL, NULL, NULL, NULL, NULL, NULL, NULL);
+INSERT INTO Components(id, notebook, uid, change, type, span, start, end, until, flags,
+    startWall, startTz, endWall, endTz, summary)
+VALUES (1, 'nb', 'old-event', 1, 0, 0, 1304319600, 1304323200, 1304323200, 1,
+    1304330400000, 'Europe/Helsinki', 1304334000000, 'Europe/Helsinki', 'Dentist');
+INSERT INTO Alarm(comp, pos, type, enabled, relation, offset, text)
+VALUES (1, 0, 1, 1, 1, -900, 'Leave');
+PRAGMA application_id = 1685285740;)";
+}
+
 QStringList schemaOf(Connection &connection)
 {
     return texts(connection, "SELECT sql FROM sqlite_master WHERE sql NOT NULL ORDER BY sql");
@@ -55,6 +71,7 @@ class TestSchema : public QObject
 private Q_SLOTS:
     void init();
     void makesPrivateFile();
+    void firstVersionStaysAsItIs();
     void upgradesOlderVersion();
     void failedUpgradeLeavesTheFile();
     void refuses_data();
@@ -88,11 +105,19 @@ void TestSchema::makesPrivateFile()
     QCOMPARE(QDir(QFileInfo(m_file).path()).entryList({QStringLiteral("*.v*")}), QStringList());
 }
 
+/// Its files are out there: whatever changes is another step.
+void TestSchema::firstVersionStaysAsItIs()
+{
+    const QByteArray script = contents(QStringLiteral(":/mkcal/schema/0.sql"));
+    QCOMPARE(QCryptographicHash::hash(script, QCryptographicHash::Sha1).toHex(),
+             QByteArray("d074acb2129bb699707afd75a832628da487c5fb"));
+}
+
 void TestSchema::upgradesOlderVersion()
 {
     Connection connection;
     QVERIFY(QDir().mkpath(QFileInfo(m_file).path()));
-    writeDatabase(m_file, contents(QStringLiteral(":/fixtures/schema0.sql")));
+    writeDatabase(m_file, firstVersion());
     QVERIFY(connection.open(m_file));
     QVERIFY2(Schema::prepare(connection), qPrintable(connection.lastError().message));
     QCOMPARE(Schema::version(connection), Schema::currentVersion);
@@ -126,9 +151,7 @@ void TestSchema::failedUpgradeLeavesTheFile()
 {
     QVERIFY(QDir().mkpath(QFileInfo(m_file).path()));
     // The step makes a table of that name.
-    writeDatabase(m_file,
-                  contents(QStringLiteral(":/fixtures/schema0.sql"))
-                      + "CREATE TABLE Reminders(id INTEGER)");
+    writeDatabase(m_file, firstVersion() + "CREATE TABLE Reminders(id INTEGER)");
     Connection connection;
     QVERIFY(connection.open(m_file));
     const QStringList before = schemaOf(connection);

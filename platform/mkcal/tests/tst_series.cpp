@@ -8,24 +8,40 @@ using mKCal::ExtendedCalendar;
 
 namespace
 {
-using Build = KCalCore::Incidence::Ptr (*)(ExtendedCalendar &);
-} // namespace
+using Incidence = KCalCore::Incidence;
 
-Q_DECLARE_METATYPE(Build)
-
-namespace
-{
-KCalCore::Event::Ptr meeting(const QString &rule, const QString &start)
+KCalCore::Event::Ptr meeting(const QString &rule, const QString &start = "2011-05-02T10:00")
 {
     const QString end = at(start).addSecs(3600).toString(Qt::ISODate).left(16);
     return recurring(newEvent("a", start, end), rule);
 }
 
-template <typename Pointer>
-KCalCore::Incidence::Ptr added(ExtendedCalendar &calendar, const Pointer &incidence)
+KCalCore::Event::Ptr series(const QString &rule, const QString &start, const QString &end,
+                            const QByteArray &zone = {})
 {
-    calendar.addIncidence(incidence, "home");
-    return incidence;
+    return recurring(newEvent("a", start, end, zone), rule);
+}
+
+KCalCore::Todo::Ptr task()
+{
+    const auto task = newTodo("a", "2011-05-04T18:00");
+    task->setDtStart(at("2011-05-02T09:00"));
+    return recurring(task, "FREQ=WEEKLY;COUNT=4");
+}
+
+/// Five weeks from 2 May on, with the second meeting changed, as are those after it if asked for.
+Family withMoved(bool andLater)
+{
+    const auto series = meeting("FREQ=WEEKLY;COUNT=5");
+    const auto moved =
+        exception(series, at("2011-05-09T10:00"), "2011-05-10T15:00", "2011-05-10T18:00");
+    moved->setThisAndFuture(andLater);
+    return {series, moved};
+}
+
+void addPeriod(const KCalCore::Event::Ptr &series, const QString &start, const QString &end)
+{
+    series->recurrence()->addRDateTimePeriod(KCalCore::Period(at(start), at(end)));
 }
 
 /// What is shown, whatever it is called.
@@ -38,150 +54,93 @@ QStringList times(const ExtendedCalendar &calendar)
     return lines;
 }
 
-void row(const char *name, const KDateTime &cut, int later, Build build)
+/// The first one is the series.
+void row(const char *name, const Family &family, const KDateTime &cut, int later)
 {
-    QTest::newRow(name) << build << cut << later;
+    QTest::newRow(name) << family << cut << later;
 }
 
 void addRuleRows()
 {
+    const QString march("2011-03-07T10:00");
     const KDateTime inJune(at("2011-06-06T10:00"));
-    row("endless, over both clock changes", inJune, 30, [](ExtendedCalendar &c) {
-        return added(c, meeting("FREQ=WEEKLY;UNTIL=20111231T000000Z", "2011-03-07T10:00"));
-    });
-    row("endless", inJune, 83,
-        [](ExtendedCalendar &c) { return added(c, meeting("FREQ=WEEKLY", "2011-03-07T10:00")); });
-    row("asked for in UTC", KDateTime(at("2011-06-06T07:00", "UTC")), 83,
-        [](ExtendedCalendar &c) { return added(c, meeting("FREQ=WEEKLY", "2011-03-07T10:00")); });
-}
-
-void addCountRows()
-{
-    const KDateTime inJune(at("2011-06-06T10:00"));
-    row("COUNT", inJune, 7, [](ExtendedCalendar &c) {
-        return added(c, meeting("FREQ=WEEKLY;COUNT=20", "2011-03-07T10:00"));
-    });
-    row("COUNT, only the last one later", KDateTime(at("2011-07-18T10:00")), 1,
-        [](ExtendedCalendar &c) {
-            return added(c, meeting("FREQ=WEEKLY;COUNT=20", "2011-03-07T10:00"));
-        });
-    row("COUNT with excluded ones on both sides", inJune, 6, [](ExtendedCalendar &c) {
-        const auto series = meeting("FREQ=WEEKLY;COUNT=20", "2011-03-07T10:00");
-        series->recurrence()->addExDateTime(at("2011-03-21T10:00"));
-        series->recurrence()->addExDate(QDate(2011, 6, 13));
-        return added(c, series);
-    });
-    row("COUNT, start off the rule", KDateTime(at("2011-03-24T10:00")), 3, [](ExtendedCalendar &c) {
-        return added(c, meeting("FREQ=WEEKLY;BYDAY=TH;COUNT=5", "2011-03-07T10:00"));
-    });
-    row("two days every other week, cut in mid-week", KDateTime(at("2011-03-10T10:00")), 43 + 52,
-        [](ExtendedCalendar &c) {
-            return added(c, meeting("FREQ=WEEKLY;INTERVAL=2;BYDAY=MO,TH", "2011-03-07T10:00"));
-        });
-    row("last day of the month", KDateTime(at("2011-05-31T10:00")), 20, [](ExtendedCalendar &c) {
-        return added(c, meeting("FREQ=MONTHLY;BYMONTHDAY=-1", "2011-01-31T10:00"));
-    });
+    row("until, over both clock changes", {meeting("FREQ=WEEKLY;UNTIL=20111231T000000Z", march)},
+        inJune, 30);
+    row("endless", {meeting("FREQ=WEEKLY", march)}, inJune, 83);
+    row("asked for in UTC", {meeting("FREQ=WEEKLY", march)},
+        KDateTime(at("2011-06-06T07:00", "UTC")), 83);
+    row("COUNT", {meeting("FREQ=WEEKLY;COUNT=20", march)}, inJune, 7);
+    row("COUNT, only the last one later", {meeting("FREQ=WEEKLY;COUNT=20", march)},
+        KDateTime(at("2011-07-18T10:00")), 1);
+    const auto excluded = meeting("FREQ=WEEKLY;COUNT=20", march);
+    excluded->recurrence()->addExDateTime(at("2011-03-21T10:00"));
+    excluded->recurrence()->addExDate(QDate(2011, 6, 13));
+    row("COUNT with excluded ones on both sides", {excluded}, inJune, 6);
+    row("COUNT, start off the rule", {meeting("FREQ=WEEKLY;BYDAY=TH;COUNT=5", march)},
+        KDateTime(at("2011-03-24T10:00")), 3);
+    row("two days every other week, cut in mid-week",
+        {meeting("FREQ=WEEKLY;INTERVAL=2;BYDAY=MO,TH", march)}, KDateTime(at("2011-03-10T10:00")),
+        43 + 52);
+    row("last day of the month", {meeting("FREQ=MONTHLY;BYMONTHDAY=-1", "2011-01-31T10:00")},
+        KDateTime(at("2011-05-31T10:00")), 20);
 }
 
 void addClockRows()
 {
-    row("all-day, over the short day", KDateTime(QDate(2011, 3, 27)), 5, [](ExtendedCalendar &c) {
-        return added(
-            c, recurring(newEvent("a", "2011-03-20", "2011-03-22"), "FREQ=DAILY;UNTIL=20110331"));
-    });
-    row("all-day with excluded dates", KDateTime(QDate(2011, 10, 30)), 9, [](ExtendedCalendar &c) {
-        const auto series =
-            recurring(newEvent("a", "2011-10-20", "2011-10-21"), "FREQ=DAILY;COUNT=20");
-        series->recurrence()->addExDate(QDate(2011, 10, 25));
-        series->recurrence()->addExDate(QDate(2011, 11, 1));
-        return added(c, series);
-    });
-    row("a skipped start before the cut", KDateTime(at("2011-03-29T03:30")), 3,
-        [](ExtendedCalendar &c) {
-            return added(c, meeting("FREQ=DAILY;COUNT=6", "2011-03-26T03:30"));
-        });
-    row("floating", KDateTime(at("2011-10-30T10:00", "")), 6, [](ExtendedCalendar &c) {
-        return added(c,
-                     recurring(newEvent("a", "2011-10-26T10:00", "2011-10-26T11:00", ""),
-                               "FREQ=DAILY;COUNT=10"));
-    });
-    row("another zone", KDateTime(at("2011-03-14T10:00", "America/New_York")), 6,
-        [](ExtendedCalendar &c) {
-            return added(
-                c,
-                recurring(newEvent("a", "2011-03-10T10:00", "2011-03-10T11:00", "America/New_York"),
-                          "FREQ=DAILY;COUNT=10"));
-        });
+    row("all-day, over the short day",
+        {series("FREQ=DAILY;UNTIL=20110331", "2011-03-20", "2011-03-22")},
+        KDateTime(QDate(2011, 3, 27)), 5);
+    const auto excluded = series("FREQ=DAILY;COUNT=20", "2011-10-20", "2011-10-21");
+    excluded->recurrence()->addExDate(QDate(2011, 10, 25));
+    excluded->recurrence()->addExDate(QDate(2011, 11, 1));
+    row("all-day with excluded dates", {excluded}, KDateTime(QDate(2011, 10, 30)), 9);
+    row("a skipped start before the cut", {meeting("FREQ=DAILY;COUNT=6", "2011-03-26T03:30")},
+        KDateTime(at("2011-03-29T03:30")), 3);
+    row("floating", {series("FREQ=DAILY;COUNT=10", "2011-10-26T10:00", "2011-10-26T11:00")},
+        KDateTime(at("2011-10-30T10:00", "")), 6);
+    const QByteArray newYork("America/New_York");
+    row("another zone",
+        {series("FREQ=DAILY;COUNT=10", "2011-03-10T10:00", "2011-03-10T11:00", newYork)},
+        KDateTime(at("2011-03-14T10:00", newYork)), 6);
 }
 
 void addDateRows()
 {
-    row("RDATEs and a period on both sides", KDateTime(at("2011-05-09T10:00")), 5,
-        [](ExtendedCalendar &c) {
-            const auto series = meeting("FREQ=WEEKLY;COUNT=4", "2011-05-02T10:00");
-            for (const char *time : {"2011-05-04T12:00", "2011-05-11T12:00"}) {
-                series->recurrence()->addRDateTime(at(time));
-            }
-            series->recurrence()->addRDateTimePeriod(
-                KCalCore::Period(at("2011-05-05T12:00"), at("2011-05-05T22:00")));
-            series->recurrence()->addRDateTimePeriod(
-                KCalCore::Period(at("2011-06-05T12:00"), at("2011-06-05T22:00")));
-            return added(c, series);
-        });
-    row("cut at an RDATE", KDateTime(at("2011-05-12T10:00")), 3, [](ExtendedCalendar &c) {
-        const auto series = meeting("FREQ=WEEKLY;COUNT=4", "2011-05-02T10:00");
-        series->recurrence()->addRDateTime(at("2011-05-12T10:00"));
-        return added(c, series);
-    });
-    row("EXRULE", KDateTime(at("2011-05-09T10:00")), 6, [](ExtendedCalendar &c) {
-        const auto series = meeting("FREQ=DAILY;COUNT=14", "2011-05-02T10:00");
-        auto *rule = new KCalCore::RecurrenceRule;
-        rule->setRecurrenceType(KCalCore::RecurrenceRule::rWeekly);
-        rule->setFrequency(1);
-        rule->setByDays({KCalCore::RecurrenceRule::WDayPos(0, 3)});
-        rule->setDuration(-1);
-        rule->setStartDt(series->dtStart());
-        series->recurrence()->addExRule(rule);
-        return added(c, series);
-    });
+    const auto dates = meeting("FREQ=WEEKLY;COUNT=4");
+    for (const char *time : {"2011-05-04T12:00", "2011-05-11T12:00"}) {
+        dates->recurrence()->addRDateTime(at(time));
+    }
+    addPeriod(dates, "2011-05-05T12:00", "2011-05-05T22:00");
+    addPeriod(dates, "2011-06-05T12:00", "2011-06-05T22:00");
+    row("RDATEs and a period on both sides", {dates}, KDateTime(at("2011-05-09T10:00")), 5);
+    const auto cutAtDate = meeting("FREQ=WEEKLY;COUNT=4");
+    cutAtDate->recurrence()->addRDateTime(at("2011-05-12T10:00"));
+    row("cut at an RDATE", {cutAtDate}, KDateTime(at("2011-05-12T10:00")), 3);
+    const auto notWednesdays = meeting("FREQ=DAILY;COUNT=14");
+    auto *rule = new KCalCore::RecurrenceRule;
+    rule->setRecurrenceType(KCalCore::RecurrenceRule::rWeekly);
+    rule->setFrequency(1);
+    rule->setByDays({KCalCore::RecurrenceRule::WDayPos(0, 3)});
+    rule->setDuration(-1);
+    rule->setStartDt(notWednesdays->dtStart());
+    notWednesdays->recurrence()->addExRule(rule);
+    row("EXRULE", {notWednesdays}, KDateTime(at("2011-05-09T10:00")), 6);
 }
 
 void addExceptionRows()
 {
-    row("exceptions moved over the cut, both ways", KDateTime(at("2011-05-16T10:00")), 3,
-        [](ExtendedCalendar &c) {
-            const auto series = meeting("FREQ=WEEKLY;COUNT=5", "2011-05-02T10:00");
-            added(c, series);
-            added(
-                c,
-                exception(series, at("2011-05-09T10:00"), "2011-06-09T10:00", "2011-06-09T11:00"));
-            added(
-                c,
-                exception(series, at("2011-05-23T10:00"), "2011-05-03T10:00", "2011-05-03T11:00"));
-            return KCalCore::Incidence::Ptr(series);
-        });
-    row("an exception at the cut", KDateTime(at("2011-05-16T10:00")), 3, [](ExtendedCalendar &c) {
-        const auto series = meeting("FREQ=WEEKLY;COUNT=5", "2011-05-02T10:00");
-        added(c, series);
-        added(c, exception(series, at("2011-05-16T10:00"), "2011-05-15T10:00", "2011-05-15T11:00"));
-        return KCalCore::Incidence::Ptr(series);
-    });
-    row("an exception from there on before the cut", KDateTime(at("2011-05-23T10:00")), 2,
-        [](ExtendedCalendar &c) {
-            const auto series = meeting("FREQ=WEEKLY;COUNT=5", "2011-05-02T10:00");
-            added(c, series);
-            const auto later =
-                exception(series, at("2011-05-09T10:00"), "2011-05-10T15:00", "2011-05-10T18:00");
-            later->setThisAndFuture(true);
-            added(c, later);
-            return KCalCore::Incidence::Ptr(series);
-        });
-    row("to-do with start and due date", KDateTime(at("2011-05-09T09:00")), 3,
-        [](ExtendedCalendar &c) {
-            const auto task = newTodo("a", "2011-05-04T18:00");
-            task->setDtStart(at("2011-05-02T09:00"));
-            return added(c, recurring(task, "FREQ=WEEKLY;COUNT=4"));
-        });
+    const auto series = meeting("FREQ=WEEKLY;COUNT=5");
+    row("exceptions moved over the cut, both ways",
+        {series, exception(series, at("2011-05-09T10:00"), "2011-06-09T10:00", "2011-06-09T11:00"),
+         exception(series, at("2011-05-23T10:00"), "2011-05-03T10:00", "2011-05-03T11:00")},
+        KDateTime(at("2011-05-16T10:00")), 3);
+    const auto other = meeting("FREQ=WEEKLY;COUNT=5");
+    row("an exception at the cut",
+        {other, exception(other, at("2011-05-16T10:00"), "2011-05-15T10:00", "2011-05-15T11:00")},
+        KDateTime(at("2011-05-16T10:00")), 3);
+    row("an exception from there on before the cut", withMoved(true),
+        KDateTime(at("2011-05-23T10:00")), 2);
+    row("to-do with start and due date", {task()}, KDateTime(at("2011-05-09T09:00")), 3);
 }
 } // namespace
 
@@ -199,11 +158,18 @@ private Q_SLOTS:
     void splitRefused();
     void dissociate_data();
     void dissociate();
+    void dissociateException_data();
     void dissociateException();
     void dissociateRefused();
-    void dissociateCarriesOn();
 
 private:
+    /// The first one, which is the series.
+    Incidence::Ptr add(const Family &family);
+    Incidence::Ptr dissociate(const Incidence::Ptr &series, const KDateTime &occurrence)
+    {
+        return m_calendar->dissociateSingleOccurrence(series, occurrence, occurrence.timeSpec());
+    }
+
     std::unique_ptr<ExtendedCalendar> m_calendar;
 };
 
@@ -215,14 +181,20 @@ void TestSeries::init()
     QVERIFY(m_calendar->setDefaultNotebook("work"));
 }
 
+Incidence::Ptr TestSeries::add(const Family &family)
+{
+    for (const auto &incidence : family) {
+        m_calendar->addIncidence(incidence, "home");
+    }
+    return family.first();
+}
+
 void TestSeries::split_data()
 {
-    QTest::addColumn<Build>("build");
+    QTest::addColumn<Family>("family");
     QTest::addColumn<KDateTime>("cut");
     QTest::addColumn<int>("later");
-
     addRuleRows();
-    addCountRows();
     addClockRows();
     addDateRows();
     addExceptionRows();
@@ -230,9 +202,9 @@ void TestSeries::split_data()
 
 void TestSeries::split()
 {
-    QFETCH(Build, build);
+    QFETCH(Family, family);
     QFETCH(KDateTime, cut);
-    const auto series = build(*m_calendar);
+    const auto series = add(family);
     const QStringList before = times(*m_calendar);
     const auto later = m_calendar->splitSeries(series, cut);
     QVERIFY(later);
@@ -247,9 +219,8 @@ void TestSeries::split()
 
 void TestSeries::splitParts()
 {
-    const auto series = meeting("FREQ=WEEKLY;COUNT=20", "2011-03-07T10:00");
+    const auto series = add({meeting("FREQ=WEEKLY;COUNT=20", "2011-03-07T10:00")});
     series->setSummary("Choir", false);
-    added(*m_calendar, series);
     const auto later = m_calendar->splitSeries(series, KDateTime(at("2011-06-06T10:00")));
     QVERIFY(later);
     QCOMPARE(series->recurrence()->duration(), 13);
@@ -262,91 +233,69 @@ void TestSeries::splitParts()
 
 void TestSeries::splitRefused_data()
 {
-    QTest::addColumn<Build>("build");
+    QTest::addColumn<Family>("family");
     QTest::addColumn<KDateTime>("cut");
-
-    const Build weekly = [](ExtendedCalendar &c) {
-        return added(c, meeting("FREQ=WEEKLY;COUNT=5", "2011-05-02T10:00"));
+    QTest::addColumn<bool>("isAdded");
+    const auto row = [](const char *name, const Incidence::Ptr &series, const KDateTime &cut,
+                        bool isAdded = true) {
+        QTest::newRow(name) << Family{series} << cut << isAdded;
     };
-    QTest::newRow("the first") << weekly << KDateTime(at("2011-05-02T10:00"));
-    QTest::newRow("no occurrence") << weekly << KDateTime(at("2011-05-03T10:00"));
-    QTest::newRow("after the last") << weekly << KDateTime(at("2011-06-06T10:00"));
-    QTest::newRow("invalid") << weekly << KDateTime();
-    QTest::newRow("does not recur")
-        << Build([](ExtendedCalendar &c) { return added(c, newEvent("a", "2011-05-02T10:00")); })
-        << KDateTime(at("2011-05-02T10:00"));
-    QTest::newRow("not in the calendar") << Build([](ExtendedCalendar &) {
-        return KCalCore::Incidence::Ptr(meeting("FREQ=DAILY", "2011-05-02T10:00"));
-    }) << KDateTime(at("2011-05-03T10:00"));
-    QTest::newRow("a rule that counts its steps from the start") << Build([](ExtendedCalendar &c) {
-        const auto series = meeting("FREQ=DAILY;INTERVAL=5;COUNT=9", "2011-05-02T10:00");
-        series->recurrence()->addRDateTime(at("2011-05-09T10:00"));
-        return added(c, series);
-    }) << KDateTime(at("2011-05-09T10:00"));
+    const QString weekly("FREQ=WEEKLY;COUNT=5");
+    row("the first", meeting(weekly), KDateTime(at("2011-05-02T10:00")));
+    row("no occurrence", meeting(weekly), KDateTime(at("2011-05-03T10:00")));
+    row("after the last", meeting(weekly), KDateTime(at("2011-06-06T10:00")));
+    row("invalid", meeting(weekly), KDateTime());
+    row("does not recur", newEvent("a", "2011-05-02T10:00"), KDateTime(at("2011-05-02T10:00")));
+    row("not in the calendar", meeting("FREQ=DAILY"), KDateTime(at("2011-05-03T10:00")), false);
+    const auto counting = meeting("FREQ=DAILY;INTERVAL=5;COUNT=9");
+    counting->recurrence()->addRDateTime(at("2011-05-09T10:00"));
+    row("a rule that counts its steps from the start", counting, KDateTime(at("2011-05-09T10:00")));
 }
 
 void TestSeries::splitRefused()
 {
-    QFETCH(Build, build);
+    QFETCH(Family, family);
     QFETCH(KDateTime, cut);
-    const auto series = build(*m_calendar);
+    QFETCH(bool, isAdded);
+    if (isAdded) {
+        add(family);
+    }
     const QStringList before = times(*m_calendar);
-    QVERIFY(!m_calendar->splitSeries(series, cut));
+    QVERIFY(!m_calendar->splitSeries(family.first(), cut));
     QCOMPARE(times(*m_calendar), before);
 }
 
 void TestSeries::dissociate_data()
 {
-    QTest::addColumn<Build>("build");
+    QTest::addColumn<Family>("family");
     QTest::addColumn<KDateTime>("occurrence");
     QTest::addColumn<QString>("start");
-
-    const Build daily = [](ExtendedCalendar &c) {
-        return added(c, meeting("FREQ=DAILY;COUNT=9", "2011-03-24T03:30"));
+    const auto row = [](const char *name, const Family &family, const KDateTime &occurrence,
+                        const QString &start) {
+        QTest::newRow(name) << family << occurrence << start;
     };
-    const auto row = [](const char *name, const KDateTime &occurrence, const QString &start,
-                        Build build) { QTest::newRow(name) << build << occurrence << start; };
-    row("in mid-series", KDateTime(at("2011-03-25T03:30")), "2011-03-25T03:30", daily);
-    row("asked for in UTC", KDateTime(at("2011-03-25T01:30", "UTC")), "2011-03-25T03:30", daily);
-    row("the first", KDateTime(at("2011-03-24T03:30")), "2011-03-24T03:30", daily);
-    row("one that the clock skips", KDateTime(at("2011-03-27T04:30")), "2011-03-27T04:30", daily);
-    row("all-day over the short day", KDateTime(QDate(2011, 3, 26)), "2011-03-26T00:00",
-        [](ExtendedCalendar &c) {
-            return added(
-                c, recurring(newEvent("a", "2011-03-20", "2011-03-22"), "FREQ=DAILY;COUNT=9"));
-        });
-    row("an RDATE period", KDateTime(at("2011-05-05T12:00")), "2011-05-05T12:00",
-        [](ExtendedCalendar &c) {
-            const auto series = meeting("FREQ=DAILY;COUNT=2", "2011-05-02T10:00");
-            series->recurrence()->addRDateTimePeriod(
-                KCalCore::Period(at("2011-05-05T12:00"), at("2011-05-05T22:00")));
-            return added(c, series);
-        });
-    row("after an exception from there on", KDateTime(at("2011-05-24T15:00")), "2011-05-24T15:00",
-        [](ExtendedCalendar &c) {
-            const auto series = meeting("FREQ=WEEKLY;COUNT=5", "2011-05-02T10:00");
-            added(c, series);
-            const auto later =
-                exception(series, at("2011-05-09T10:00"), "2011-05-10T15:00", "2011-05-10T18:00");
-            later->setThisAndFuture(true);
-            added(c, later);
-            return KCalCore::Incidence::Ptr(series);
-        });
-    row("to-do", KDateTime(at("2011-05-09T09:00")), "2011-05-09T09:00", [](ExtendedCalendar &c) {
-        const auto task = newTodo("a", "2011-05-04T18:00");
-        task->setDtStart(at("2011-05-02T09:00"));
-        return added(c, recurring(task, "FREQ=WEEKLY;COUNT=4"));
-    });
+    const auto daily = [] { return Family{meeting("FREQ=DAILY;COUNT=9", "2011-03-24T03:30")}; };
+    row("in mid-series", daily(), KDateTime(at("2011-03-25T03:30")), "2011-03-25T03:30");
+    row("asked for in UTC", daily(), KDateTime(at("2011-03-25T01:30", "UTC")), "2011-03-25T03:30");
+    row("the first", daily(), KDateTime(at("2011-03-24T03:30")), "2011-03-24T03:30");
+    row("one that the clock skips", daily(), KDateTime(at("2011-03-27T04:30")), "2011-03-27T04:30");
+    row("all-day over the short day", {series("FREQ=DAILY;COUNT=9", "2011-03-20", "2011-03-22")},
+        KDateTime(QDate(2011, 3, 26)), "2011-03-26T00:00");
+    const auto periods = meeting("FREQ=DAILY;COUNT=2");
+    addPeriod(periods, "2011-05-05T12:00", "2011-05-05T22:00");
+    row("an RDATE period", {periods}, KDateTime(at("2011-05-05T12:00")), "2011-05-05T12:00");
+    row("after an exception from there on", withMoved(true), KDateTime(at("2011-05-24T15:00")),
+        "2011-05-24T15:00");
+    row("to-do", {task()}, KDateTime(at("2011-05-09T09:00")), "2011-05-09T09:00");
 }
 
 void TestSeries::dissociate()
 {
-    QFETCH(Build, build);
+    QFETCH(Family, family);
     QFETCH(KDateTime, occurrence);
-    const auto series = build(*m_calendar);
+    const auto series = add(family);
     const QStringList before = times(*m_calendar);
-    const auto detached =
-        m_calendar->dissociateSingleOccurrence(series, occurrence, occurrence.timeSpec());
+    const auto detached = dissociate(series, occurrence);
     QVERIFY(detached);
     QCOMPARE(times(*m_calendar), before);
     QTEST(detached->dtStart().toString(Qt::ISODate).left(16), "start");
@@ -358,20 +307,24 @@ void TestSeries::dissociate()
     m_calendar->deleteIncidence(detached);
     QCOMPARE(times(*m_calendar).size(), before.size() - 1);
     // Once is enough.
-    QVERIFY(!m_calendar->dissociateSingleOccurrence(series, occurrence, occurrence.timeSpec()));
+    QVERIFY(!dissociate(series, occurrence));
+}
+
+void TestSeries::dissociateException_data()
+{
+    QTest::addColumn<bool>("andLater");
+    QTest::newRow("alone") << false;
+    // What counts from an occurrence on goes on counting when that one is taken out.
+    QTest::newRow("with those that follow") << true;
 }
 
 void TestSeries::dissociateException()
 {
-    const auto series = meeting("FREQ=WEEKLY;COUNT=5", "2011-05-02T10:00");
-    added(*m_calendar, series);
-    const auto moved =
-        exception(series, at("2011-05-09T10:00"), "2011-05-10T15:00", "2011-05-10T18:00");
-    added(*m_calendar, moved);
+    QFETCH(bool, andLater);
+    const auto series = add(withMoved(andLater));
     const QStringList before = times(*m_calendar);
     const KDateTime occurrence(at("2011-05-09T10:00"));
-    const auto detached =
-        m_calendar->dissociateSingleOccurrence(series, occurrence, occurrence.timeSpec());
+    const auto detached = dissociate(series, occurrence);
     QVERIFY(detached);
     QCOMPARE(detached->dtStart(), at("2011-05-10T15:00"));
     QCOMPARE(times(*m_calendar), before);
@@ -380,37 +333,19 @@ void TestSeries::dissociateException()
 
 void TestSeries::dissociateRefused()
 {
-    const auto series = meeting("FREQ=WEEKLY;COUNT=5", "2011-05-02T10:00");
-    added(*m_calendar, series);
+    const auto series = meeting("FREQ=WEEKLY;COUNT=5");
     const auto cancelled =
         exception(series, at("2011-05-09T10:00"), "2011-05-09T10:00", "2011-05-09T11:00");
-    cancelled->setStatus(KCalCore::Incidence::StatusCanceled);
-    added(*m_calendar, cancelled);
+    cancelled->setStatus(Incidence::StatusCanceled);
     const auto once = newEvent("once", "2011-05-02T10:00");
-    added(*m_calendar, once);
-    const auto spec = KDateTime::Spec::LocalZone();
+    add({series, cancelled, once});
     const QStringList before = times(*m_calendar);
     for (const char *time : {"2011-05-03T10:00", "2011-05-09T10:00", "2011-06-06T10:00"}) {
-        QVERIFY(!m_calendar->dissociateSingleOccurrence(series, KDateTime(at(time)), spec));
+        QVERIFY(!dissociate(series, KDateTime(at(time))));
     }
-    QVERIFY(!m_calendar->dissociateSingleOccurrence(once, KDateTime(once->dtStart()), spec));
-    QVERIFY(!m_calendar->dissociateSingleOccurrence({}, KDateTime(once->dtStart()), spec));
-    QVERIFY(!m_calendar->dissociateSingleOccurrence(series, KDateTime(), spec));
-    QCOMPARE(times(*m_calendar), before);
-}
-
-void TestSeries::dissociateCarriesOn()
-{
-    // What counts from an occurrence on goes on counting when that one is taken out.
-    const auto series = meeting("FREQ=WEEKLY;COUNT=5", "2011-05-02T10:00");
-    added(*m_calendar, series);
-    const auto later =
-        exception(series, at("2011-05-09T10:00"), "2011-05-10T15:00", "2011-05-10T18:00");
-    later->setThisAndFuture(true);
-    added(*m_calendar, later);
-    const QStringList before = times(*m_calendar);
-    const KDateTime occurrence(at("2011-05-09T10:00"));
-    QVERIFY(m_calendar->dissociateSingleOccurrence(series, occurrence, occurrence.timeSpec()));
+    QVERIFY(!dissociate(once, KDateTime(once->dtStart())));
+    QVERIFY(!dissociate({}, KDateTime(once->dtStart())));
+    QVERIFY(!dissociate(series, KDateTime()));
     QCOMPARE(times(*m_calendar), before);
 }
 
