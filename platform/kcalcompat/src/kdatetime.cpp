@@ -4,6 +4,7 @@
 #include "ksystemtimezones_p.h"
 
 #include <kcalcompat/clock.h>
+#include <kcalcompat/firstpass.h>
 #include <kcalcompat/kdatetime.h>
 
 namespace
@@ -48,6 +49,12 @@ QDateTime existing(const QDateTime &asked)
     return there(wallClock.addSecs(-offsetBefore));
 }
 
+/// The moment that a date and a time of day name.
+QDateTime named(const QDateTime &asked)
+{
+    return asked.isValid() ? KCalCompat::firstPass(asked) : existing(asked);
+}
+
 QDateTime wallClockIn(const KDateTime::Spec &spec, const QDate &date, const QTime &time)
 {
     // QDateTime would take a missing time for midnight.
@@ -61,13 +68,13 @@ QDateTime wallClockIn(const KDateTime::Spec &spec, const QDate &date, const QTim
     case KDateTime::OffsetFromUTC:
         return QDateTime(date, time, Qt::OffsetFromUTC, spec.utcOffset());
     case KDateTime::TimeZone:
-        return existing(QDateTime(date, time, spec.timeZone()));
+        return named(QDateTime(date, time, spec.timeZone()));
     case KDateTime::LocalZone: {
         const QTimeZone zone = KCalCompat::systemZone();
-        return existing(zone.isValid() ? QDateTime(date, time, zone) : QDateTime(date, time));
+        return named(zone.isValid() ? QDateTime(date, time, zone) : QDateTime(date, time));
     }
     case KDateTime::ClockTime:
-        return existing(QDateTime(date, time));
+        return named(QDateTime(date, time));
     }
     return {};
 }

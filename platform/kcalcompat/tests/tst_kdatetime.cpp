@@ -4,6 +4,7 @@
 #include "systemzone.h"
 
 #include <kcalcompat/clock.h>
+#include <kcalcompat/firstpass.h>
 #include <kcalcompat/kcalcore.h>
 #include <kcalcompat/kdatetime.h>
 
@@ -54,6 +55,8 @@ private Q_SLOTS:
     void writesWhatItReads();
     void leftOutTimes_data();
     void leftOutTimes();
+    void repeatedTimes_data();
+    void repeatedTimes();
     void conversionsKeepTheMoment_data();
     void conversionsKeepTheMoment();
     void dateOnlyKeepsItsDate_data();
@@ -272,6 +275,43 @@ void TestKDateTime::leftOutTimes()
     }
     const QDateTime fromQt(wallClock.date(), wallClock.time(), QTimeZone(zoneId));
     QCOMPARE(readsAs(KDateTime(fromQt), zoneId), given);
+}
+
+void TestKDateTime::repeatedTimes_data()
+{
+    QTest::addColumn<QByteArray>("zoneId");
+    QTest::addColumn<QString>("asked");
+    QTest::addColumn<QString>("given");
+    const auto row = [](const char *zoneId, const char *asked, const char *given) {
+        QTest::addRow("%s %s", zoneId, asked)
+            << QByteArray(zoneId) << QString::fromLatin1(asked) << QString::fromLatin1(given);
+    };
+    row("Europe/Helsinki", "2026-10-25T02:59:59Z", "2026-10-25T02:59:59+03:00");
+    row("Europe/Helsinki", "2026-10-25T03:00:00Z", "2026-10-25T03:00:00+03:00");
+    row("Europe/Helsinki", "2026-10-25T03:59:59Z", "2026-10-25T03:59:59+03:00");
+    row("Europe/Helsinki", "2026-10-25T04:00:00Z", "2026-10-25T04:00:00+02:00");
+    row("Europe/Helsinki", "2026-10-25T06:59:59Z", "2026-10-25T06:59:59+02:00");
+    row("Europe/London", "2026-10-25T01:30:00Z", "2026-10-25T01:30:00+01:00");
+    row("America/New_York", "2026-11-01T01:30:00Z", "2026-11-01T01:30:00-04:00");
+    row("America/Havana", "2026-11-01T00:00:00Z", "2026-11-01T00:00:00-04:00");
+    row("Australia/Sydney", "2026-04-05T02:30:00Z", "2026-04-05T02:30:00+11:00");
+    row("Australia/Lord_Howe", "2026-04-05T01:45:00Z", "2026-04-05T01:45:00+11:00");
+    row("Antarctica/Troll", "2026-10-25T01:15:00Z", "2026-10-25T01:15:00+02:00");
+}
+
+void TestKDateTime::repeatedTimes()
+{
+    QFETCH(QByteArray, zoneId);
+    QFETCH(QString, asked);
+    QFETCH(QString, given);
+    const KDateTime wallClock = KDateTime::fromString(asked);
+    const SystemZone systemZone(zoneId);
+    for (const Spec &spec : {Spec(QTimeZone(zoneId)), Spec::LocalZone(), Spec::ClockTime()}) {
+        const KDateTime moment(wallClock.date(), wallClock.time(), spec);
+        QCOMPARE(readsAs(moment, zoneId), given);
+        QCOMPARE(readsAs(moment.addDays(-1).addDays(1), zoneId), given);
+        QCOMPARE(KCalCompat::firstPass(moment.dateTime()), moment.dateTime());
+    }
 }
 
 void TestKDateTime::conversionsKeepTheMoment_data()

@@ -17,8 +17,9 @@
 ///
 /// A time of day that a clock change leaves out is moved past the change, by as much as it lies
 /// inside the gap (03:30 becomes 04:30, RFC 5545, section 3.3.5); midnight becomes the first
-/// instant of its day. Of an hour that a change repeats, date and time name the pass that QDateTime
-/// takes, while a conversion from another clock keeps the pass that it comes from.
+/// instant of its day. Of an hour that a change repeats, date and time name the first pass (the
+/// same section; firstPass() tells the exception), while a conversion from another clock keeps the
+/// pass that it comes from.
 class KDateTime
 {
 public:

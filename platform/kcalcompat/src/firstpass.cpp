@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: 2026 The daskel authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include <kcalcompat/firstpass.h>
+
+#include <QTimeZone>
+
+namespace
+{
+// No clock that people live by was put back further since there are zones (Casey, 2010).
+constexpr qint64 longestRepetition = 3 * 3600 * 1000;
+} // namespace
+
+QDateTime KCalCompat::firstPass(const QDateTime &shown)
+{
+    const bool isZoned = shown.timeSpec() == Qt::TimeZone;
+    if (!isZoned && shown.timeSpec() != Qt::LocalTime)
+        return shown;
+    const QTimeZone zone = isZoned ? shown.timeZone() : QTimeZone();
+    const auto there = [&](qint64 moment) {
+        return isZoned ? QDateTime::fromMSecsSinceEpoch(moment, zone)
+                       : QDateTime::fromMSecsSinceEpoch(moment);
+    };
+    // QDateTime::toMSecsSinceEpoch() looks the offset up anew at every call.
+    const int offset = shown.offsetFromUtc();
+    const qint64 moment =
+        QDateTime(shown.date(), shown.time(), Qt::UTC).toMSecsSinceEpoch() - offset * 1000LL;
+    const int offsetBefore = there(moment - longestRepetition).offsetFromUtc();
+    if (offsetBefore <= offset)
+        return shown;
+    const qint64 firstMoment = moment - (offsetBefore - offset) * 1000LL;
+    const QDateTime first = there(firstMoment);
+    const bool isShownTwice =
+        first.offsetFromUtc() == offsetBefore && first.toMSecsSinceEpoch() == firstMoment;
+    return isShownTwice ? first : shown;
+}
