@@ -86,7 +86,7 @@ QString DaskelLocale::formatShortTime(const QDateTime &dateTime)
     auto &shortTimes = kept().shortTimes;
     if (const QString *text = shortTimes.object(timeOfDay))
         return *text;
-    const QString text = formatDateTime(dateTime, MLocale::DateNone, MLocale::TimeShort);
+    QString text = formatDateTime(dateTime, MLocale::DateNone, MLocale::TimeShort);
     shortTimes.insert(timeOfDay, new QString(text));
     return text;
 }

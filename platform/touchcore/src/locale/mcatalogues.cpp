@@ -93,7 +93,7 @@ QString MCatalogues::translate(const char *context, const char *sourceText,
                                const char *disambiguation, int n) const
 {
     for (const auto &catalogue : m_catalogues) {
-        const QString text = catalogue->translate(context, sourceText, disambiguation, n);
+        QString text = catalogue->translate(context, sourceText, disambiguation, n);
         if (!text.isNull())
             return text;
     }

@@ -119,7 +119,7 @@ QString MLocaleFormats::makePattern(MLocale::DateType date, MLocale::TimeType ti
 
 QString MLocaleFormats::timePattern(MLocale::TimeType time, MLocale::TimeFormat24h clock) const
 {
-    const QString own = stylePattern(MLocale::DateNone, time, m_locale);
+    QString own = stylePattern(MLocale::DateNone, time, m_locale);
     if (clockOf(own) == clock)
         return own;
     UErrorCode error = U_ZERO_ERROR;
@@ -149,13 +149,13 @@ QString MLocaleFormats::format(const QDateTime &dateTime, const QString &pattern
 
     // The text shows what the date-time itself says, whatever ICU knows of its zone: the wall clock
     // is handed over as if it were that of GMT.
-    UDate moment = QDateTime(dateTime.date(), dateTime.time(), Qt::UTC).toMSecsSinceEpoch();
+    qint64 moment = QDateTime(dateTime.date(), dateTime.time(), Qt::UTC).toMSecsSinceEpoch();
     if (formatter.namesZone) {
         moment = dateTime.toMSecsSinceEpoch();
         formatter.format->adoptTimeZone(zoneOf(dateTime));
     }
     UnicodeString text;
-    return fromIcu(formatter.format->format(moment, text));
+    return fromIcu(formatter.format->format(UDate(moment), text));
 }
 
 MLocaleFormats::Formatter MLocaleFormats::makeFormatter(const QString &pattern,

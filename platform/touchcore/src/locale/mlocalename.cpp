@@ -13,7 +13,7 @@ namespace
 QString firstSet(std::initializer_list<const char *> variables)
 {
     for (const char *variable : variables) {
-        const QString value = qEnvironmentVariable(variable);
+        QString value = qEnvironmentVariable(variable);
         if (!value.isEmpty())
             return value;
     }
