@@ -33,8 +33,10 @@ public:
     QSizeF naturalSize() const;
 
     /// Draws into \a rect, sharp at the painter's device pixel ratio. A valid \a tint replaces the
-    /// picture's colours and keeps its shape. An unknown picture draws nothing and warns once.
-    void draw(const QRectF &rect, QPainter *painter, const QColor &tint = QColor()) const;
+    /// picture's colours and keeps its shape. Right to left, a picture turns round that the theme
+    /// lists as mirrored. An unknown picture draws nothing and warns once.
+    void draw(const QRectF &rect, QPainter *painter, const QColor &tint = QColor(),
+              Qt::LayoutDirection direction = Qt::LeftToRight) const;
 
     bool operator==(const MScalableImage &other) const
     {

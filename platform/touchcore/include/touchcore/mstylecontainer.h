@@ -20,9 +20,16 @@ class MStyleContainer
 public:
     using Maker = std::function<MStyle *()>;
 
-    /// \a maker makes an empty style of the widget's style class.
-    void initialize(const Maker &maker, const QMetaObject *widgetClass);
-    bool isInitialized() const { return bool(m_maker); }
+    /// \a maker, of the view or widget of the class \a ownerClass, makes an empty style for widgets
+    /// of \a widgetClass. Name and mode stay.
+    void initialize(const Maker &maker, const QMetaObject *ownerClass,
+                    const QMetaObject *widgetClass);
+    /// False before it was initialised, and for what was asked for while a base class was being
+    /// constructed: that style is of the base's class.
+    bool isFor(const QMetaObject *ownerClass, const QMetaObject *widgetClass) const
+    {
+        return ownerClass == m_ownerClass && widgetClass == m_widgetClass;
+    }
 
     QString styleName() const { return m_name; }
     void setStyleName(const QString &name);
@@ -37,6 +44,7 @@ public:
 private:
     Maker m_maker;
     const QMetaObject *m_styleClass = nullptr;
+    const QMetaObject *m_ownerClass = nullptr;
     const QMetaObject *m_widgetClass = nullptr;
     QString m_name;
     QByteArray m_mode;

@@ -32,9 +32,10 @@ public:
     ~MTheme() override;
 
     /// Loads the theme of \a library (such as "libdaskel") and its pictures: the folder
-    /// "daskel/themes/<library>" in the person's data folder, else beside the program ("../share"),
-    /// else the one built into the library (":/daskel/themes/<library>"). Answers false when
-    /// nothing was found or read. A library is loaded once. Emits changed().
+    /// "daskel/themes/<library>" beside the program ("../share"), else the one built into the
+    /// library (":/daskel/themes/<library>"), and above it that of the person's data folder, which
+    /// need hold only what differs. Answers false when nothing was found or read. A library is
+    /// loaded once. Emits changed().
     bool addLibrary(const QString &library);
 
     /// Says that rules for the class \a className are those of \a library: its theme is loaded if
@@ -53,7 +54,7 @@ public:
     /// Shows \a scheme whatever the desktop prefers. Emits changed() when it differs.
     void setColorScheme(M::ColorScheme scheme);
     /// Goes by the desktop's preference (org.freedesktop.portal.Settings), light where there is
-    /// none; follows its changes.
+    /// none; follows its changes. The desktop answers later.
     void followDesktop();
 
     M::Orientation orientation() const;
@@ -78,6 +79,9 @@ public:
     /// The file of a picture, looked up in the folders of all libraries, later ones first; empty
     /// when there is none.
     QString imageFile(const QString &id) const;
+
+    /// Whether the picture \a id points somewhere, and so turns round in a right-to-left layout.
+    bool isMirrored(const QString &id) const;
 
     /// The class of the view for a controller of \a widgetClass, looked up from that class towards
     /// its bases; empty when no rule names one.

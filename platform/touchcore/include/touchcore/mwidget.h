@@ -58,6 +58,9 @@ protected:
     bool event(QEvent *event) override;
 
 private:
+    /// Sends the enter or exit event when what is shown has changed.
+    void announceDisplay();
+
     std::unique_ptr<MWidgetPrivate> d;
 };
 

@@ -39,6 +39,7 @@ class MWidgetStyle : public MStyle
     M_STYLE_ATTRIBUTE(int, borderWidth, setBorderWidth, 0)
     /// Width of the soft shadow around the frame; it is drawn outside the widget's rectangle.
     M_STYLE_ATTRIBUTE(int, shadow, setShadow, 0)
+    M_STYLE_ATTRIBUTE(QColor, shadowColor, setShadowColor, 0, 0, 0, 80)
     /// Where the focus ring runs: outside the frame, or below 0 inside it.
     M_STYLE_ATTRIBUTE(int, focusOffset, setFocusOffset, 2)
 

@@ -20,6 +20,7 @@ FocusRing::FocusRing(QGraphicsWidget *widget, int offset)
     setAcceptedMouseButtons(Qt::NoButton);
     setZValue(std::numeric_limits<float>::max());
     connect(widget, &QGraphicsWidget::geometryChanged, this, [this] { prepareGeometryChange(); });
+    connect(MTheme::instance(), &MTheme::changed, this, [this] { update(); });
 }
 
 QRectF FocusRing::boundingRect() const

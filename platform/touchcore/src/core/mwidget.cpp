@@ -7,6 +7,8 @@
 #include <QGraphicsScene>
 #include <QGraphicsSceneContextMenuEvent>
 #include <QKeyEvent>
+#include <QPointer>
+#include <QVector>
 
 #include <algorithm>
 #include <touchcore/mwidget.h>
@@ -15,7 +17,7 @@ namespace
 {
 ObjectMenuOpener theOpener = nullptr;
 
-/// The menu stands beside the middle of the widget's start when no pointer says where.
+/// Where the menu opens when no pointer says where.
 QPointF keyboardMenuPosition(const QGraphicsWidget &widget)
 {
     return widget.mapToScene(widget.rect().center());
@@ -25,6 +27,37 @@ bool isMenuKey(const QKeyEvent &event)
 {
     return event.key() == Qt::Key_Menu
         || (event.key() == Qt::Key_F10 && event.modifiers() == Qt::ShiftModifier);
+}
+
+MWidget *asMWidget(QGraphicsItem *item)
+{
+    return item->isWidget() ? qobject_cast<MWidget *>(item->toGraphicsObject()) : nullptr;
+}
+
+/// Whether what stands below \a parent is shown, as far as it is not hidden itself.
+bool isShownBelow(QGraphicsItem *parent)
+{
+    if (!parent || !parent->isVisible())
+        return false;
+    for (QGraphicsItem *item = parent; item; item = item->parentItem()) {
+        if (const MWidget *widget = asMWidget(item))
+            return widget->isOnDisplay();
+    }
+    return false;
+}
+
+struct Branch {
+    QPointer<MWidget> widget;
+    bool isShown; ///< all that stands above it
+};
+
+void collectWidgets(QGraphicsItem *root, bool isShown, QVector<Branch> *found)
+{
+    if (MWidget *widget = asMWidget(root))
+        found->append({widget, isShown});
+    const QList<QGraphicsItem *> children = root->childItems();
+    for (QGraphicsItem *child : children)
+        collectWidgets(child, isShown && root->isVisible(), found);
 }
 } // namespace
 
@@ -37,15 +70,15 @@ class MWidgetPrivate
 {
 public:
     bool isOnDisplay = false;
-    /// Told by the scene window above; the widget is on display when it is visible, too.
-    bool isSceneWindowShown = false;
+    /// Of the scene window and all else above; the widget is on display when it is visible, too.
+    bool isBranchShown = false;
 };
 
 MWidget::MWidget(QGraphicsItem *parent)
     : QGraphicsWidget(parent), d(std::make_unique<MWidgetPrivate>())
 {
-    if (const auto *parentWidget = parent ? dynamic_cast<MWidget *>(parent) : nullptr)
-        d->isSceneWindowShown = parentWidget->d->isSceneWindowShown;
+    // It enters the display when the scene has polished it: now its class is not complete.
+    d->isBranchShown = isShownBelow(parent);
 }
 
 MWidget::~MWidget() = default;
@@ -57,21 +90,27 @@ bool MWidget::isOnDisplay() const
 
 void MWidget::updateDisplayState(QGraphicsItem *root, bool isOnDisplay)
 {
-    const bool isShown = isOnDisplay && root->isVisible();
-    if (auto *widget =
-            root->isWidget() ? qobject_cast<MWidget *>(root->toGraphicsObject()) : nullptr) {
-        widget->d->isSceneWindowShown = isOnDisplay;
-        if (widget->d->isOnDisplay != isShown) {
-            widget->d->isOnDisplay = isShown;
-            if (isShown)
-                widget->enterDisplayEvent();
-            else
-                widget->exitDisplayEvent();
-        }
+    // All are found first: what hears of its display may show, hide or delete others.
+    QVector<Branch> branches;
+    collectWidgets(root, isOnDisplay, &branches);
+    for (const Branch &branch : qAsConst(branches))
+        branch.widget->d->isBranchShown = branch.isShown;
+    for (const Branch &branch : qAsConst(branches)) {
+        if (branch.widget)
+            branch.widget->announceDisplay();
     }
-    const QList<QGraphicsItem *> children = root->childItems();
-    for (QGraphicsItem *child : children)
-        updateDisplayState(child, isShown);
+}
+
+void MWidget::announceDisplay()
+{
+    const bool isShown = d->isBranchShown && isVisible();
+    if (d->isOnDisplay == isShown)
+        return;
+    d->isOnDisplay = isShown;
+    if (isShown)
+        enterDisplayEvent();
+    else
+        exitDisplayEvent();
 }
 
 bool MWidget::openObjectMenu(const QPointF &scenePosition)
@@ -110,12 +149,10 @@ void MWidget::keyPressEvent(QKeyEvent *event)
 QVariant MWidget::itemChange(GraphicsItemChange change, const QVariant &value)
 {
     const QVariant result = QGraphicsWidget::itemChange(change, value);
-    if (change == ItemParentHasChanged) {
-        auto *above = dynamic_cast<MWidget *>(parentItem());
-        updateDisplayState(this, above && above->d->isOnDisplay);
-    } else if (change == ItemVisibleHasChanged) {
-        updateDisplayState(this, d->isSceneWindowShown);
-    }
+    if (change == ItemParentHasChanged)
+        updateDisplayState(this, isShownBelow(parentItem()));
+    else if (change == ItemVisibleHasChanged)
+        updateDisplayState(this, d->isBranchShown);
     return result;
 }
 

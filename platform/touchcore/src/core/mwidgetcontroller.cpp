@@ -22,6 +22,12 @@ bool isFromKeyboard(Qt::FocusReason reason)
     return reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason
         || reason == Qt::ShortcutFocusReason;
 }
+
+/// Whether the focus only follows the window, and comes back with it.
+bool isOfTheWindow(Qt::FocusReason reason)
+{
+    return reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason;
+}
 } // namespace
 
 class MWidgetControllerPrivate
@@ -33,6 +39,7 @@ public:
     QString styleName;
     qreal overhang = 0;
     QPointer<FocusRing> focusRing;
+    bool isRingDue = false; ///< when the window is active again
 };
 
 MWidgetController::MWidgetController(QGraphicsItem *parent)
@@ -72,8 +79,7 @@ void MWidgetController::setModel(MWidgetModel *model)
     if (!model->parent())
         model->setParent(this);
     connect(model, &MWidgetModel::modified, this, &MWidgetController::updateData);
-    if (d->view)
-        d->view->updateData(model->allMembers());
+    updateData(model->allMembers());
 }
 
 QString MWidgetController::viewType() const
@@ -111,6 +117,8 @@ MWidgetView *MWidgetController::view() const
     if (!d->view) {
         auto *self = const_cast<MWidgetController *>(this);
         d->view.reset(MViewFactory::createView(self));
+        if (!isEnabled())
+            d->view->styleContainer().setMode(QByteArrayLiteral("disabled"));
         d->view->updateData(d->model->allMembers());
         d->view->applyStyle();
     }
@@ -171,13 +179,16 @@ void MWidgetController::changeEvent(QEvent *event)
 
 void MWidgetController::focusInEvent(QFocusEvent *event)
 {
-    if (isFromKeyboard(event->reason()) && !d->focusRing)
+    const bool isDue =
+        isOfTheWindow(event->reason()) ? d->isRingDue : isFromKeyboard(event->reason());
+    if (isDue && !d->focusRing)
         d->focusRing = new FocusRing(this, focusOffset());
     MWidget::focusInEvent(event);
 }
 
 void MWidgetController::focusOutEvent(QFocusEvent *event)
 {
+    d->isRingDue = d->focusRing && isOfTheWindow(event->reason());
     delete d->focusRing;
     MWidget::focusOutEvent(event);
 }

@@ -59,8 +59,9 @@ QSizeF MWidgetView::sizeHint(Qt::SizeHint which, const QSizeF &) const
 
 MStyleContainer &MWidgetView::styleContainer() const
 {
-    if (!d->style.isInitialized()) {
-        d->style.initialize([this] { return newStyle(); }, d->controller->metaObject());
+    if (!d->style.isFor(metaObject(), d->controller->metaObject())) {
+        d->style.initialize([this] { return newStyle(); }, metaObject(),
+                            d->controller->metaObject());
         d->style.setStyleName(d->controller->styleName());
     }
     return d->style;

@@ -23,8 +23,11 @@ const uint preferDark = 1;
 DesktopPreference::DesktopPreference(QObject *parent) : QObject(parent)
 {
     QDBusConnection bus = QDBusConnection::sessionBus();
-    if (!bus.isConnected())
+    if (!bus.isConnected()) {
+        QMetaObject::invokeMethod(
+            this, [this] { Q_EMIT schemePreferred(M::LightScheme); }, Qt::QueuedConnection);
         return;
+    }
     bus.connect(service, path, interface, QStringLiteral("SettingChanged"), this,
                 SLOT(settingChanged(QString, QString, QDBusVariant)));
     QDBusMessage question =
@@ -33,9 +36,8 @@ DesktopPreference::DesktopPreference(QObject *parent) : QObject(parent)
     auto *watcher = new QDBusPendingCallWatcher(bus.asyncCall(question), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
         const QDBusPendingReply<QDBusVariant> reply = *watcher;
-        if (!reply.isError())
-            take(reply.value().variant());
         watcher->deleteLater();
+        take(reply.isError() ? QVariant() : reply.value().variant());
     });
 }
 

@@ -20,7 +20,7 @@ public:
     explicit DesktopPreference(QObject *parent);
 
 Q_SIGNALS:
-    /// After the first answer and after each change. Silent where there is no portal.
+    /// After the first answer and after each change; light where there is no portal.
     void schemePreferred(M::ColorScheme scheme);
 
 private Q_SLOTS:

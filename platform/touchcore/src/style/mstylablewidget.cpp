@@ -10,7 +10,8 @@ class MStylableWidgetPrivate
 {
 public:
     MStyleContainer style;
-    bool isStyled = false;
+    /// The class whose style is applied. A base class may ask for it while it is constructed.
+    const QMetaObject *styledAs = nullptr;
 };
 
 MStylableWidget::MStylableWidget(QGraphicsItem *parent)
@@ -22,8 +23,8 @@ MStylableWidget::~MStylableWidget() = default;
 
 MStyleContainer &MStylableWidget::styleContainer() const
 {
-    if (!d->style.isInitialized()) {
-        d->style.initialize([this] { return newStyle(); }, metaObject());
+    if (!d->style.isFor(metaObject(), metaObject())) {
+        d->style.initialize([this] { return newStyle(); }, metaObject(), metaObject());
         d->style.setStyleName(styleName());
     }
     return d->style;
@@ -34,7 +35,8 @@ void MStylableWidget::setStyleMode(const QByteArray &mode)
     if (styleContainer().mode() == mode)
         return;
     styleContainer().setMode(mode);
-    applyStyle();
+    if (d->styledAs)
+        applyStyle();
 }
 
 QRectF MStylableWidget::contentsRectangle() const
@@ -51,7 +53,7 @@ void MStylableWidget::paint(QPainter *painter, const QStyleOptionGraphicsItem *,
 
 void MStylableWidget::applyStyle()
 {
-    d->isStyled = true;
+    d->styledAs = metaObject();
     const QMarginsF margins =
         style()->margins(layoutDirection()) + style()->paddings(layoutDirection());
     setContentsMargins(margins);
@@ -64,7 +66,7 @@ void MStylableWidget::applyStyle()
 
 QSizeF MStylableWidget::sizeHint(Qt::SizeHint which, const QSizeF &constraint) const
 {
-    if (!d->isStyled)
+    if (d->styledAs != metaObject())
         const_cast<MStylableWidget *>(this)->applyStyle();
     const QSizeF own = style()->sizeHint(which);
     const QSizeF inherited = MWidget::sizeHint(which, constraint);
@@ -82,7 +84,7 @@ void MStylableWidget::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::EnabledChange)
         setStyleMode(isEnabled() ? QByteArray() : QByteArrayLiteral("disabled"));
-    else if (event->type() == QEvent::LayoutDirectionChange && d->isStyled)
+    else if (event->type() == QEvent::LayoutDirectionChange && d->styledAs)
         applyStyle();
     MWidgetController::changeEvent(event);
 }
@@ -94,7 +96,7 @@ int MStylableWidget::focusOffset() const
 
 void MStylableWidget::polishEvent()
 {
-    if (!d->isStyled)
+    if (d->styledAs != metaObject())
         applyStyle();
     MWidgetController::polishEvent();
 }
@@ -102,6 +104,6 @@ void MStylableWidget::polishEvent()
 void MStylableWidget::restyle()
 {
     d->style.setStyleName(styleName());
-    if (d->isStyled)
+    if (d->styledAs)
         applyStyle();
 }

@@ -6,10 +6,12 @@
 #include <touchcore/mstylecontainer.h>
 #include <touchcore/mtheme.h>
 
-void MStyleContainer::initialize(const Maker &maker, const QMetaObject *widgetClass)
+void MStyleContainer::initialize(const Maker &maker, const QMetaObject *ownerClass,
+                                 const QMetaObject *widgetClass)
 {
     m_maker = maker;
     m_styleClass = std::unique_ptr<MStyle>(maker())->metaObject();
+    m_ownerClass = ownerClass;
     m_widgetClass = widgetClass;
     invalidate();
 }

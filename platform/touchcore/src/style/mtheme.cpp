@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
 #include "mtheme_p.h"
+#include "picture.h"
 #include "stylefiller.h"
 
 #include <QCoreApplication>
@@ -28,8 +29,12 @@ MThemePrivate::MThemePrivate(MTheme *theme) : q(theme)
     values.rules = &rules;
 }
 
-bool MThemePrivate::readFile(const QString &file)
+bool MThemePrivate::readFile(const QString &file, const QStringList &outer)
 {
+    if (outer.contains(file)) {
+        warn(QStringLiteral("%1: includes itself").arg(file));
+        return false;
+    }
     QFile theme(file);
     if (!theme.open(QIODevice::ReadOnly)) {
         warn(QStringLiteral("%1: %2").arg(file, theme.errorString()));
@@ -38,7 +43,8 @@ bool MThemePrivate::readFile(const QString &file)
     QStringList includes;
     bool isRead = read(theme.readAll(), file, &includes);
     for (const QString &name : qAsConst(includes))
-        isRead = readFile(QFileInfo(file).dir().filePath(name)) && isRead;
+        isRead =
+            readFile(QFileInfo(file).dir().filePath(name), outer + QStringList{file}) && isRead;
     return isRead;
 }
 
@@ -59,37 +65,60 @@ void MThemePrivate::warn(const QString &text)
     qWarning("%s", qUtf8Printable(text));
 }
 
-QString MThemePrivate::folderOf(const QString &library)
+QStringList MThemePrivate::foldersOf(const QString &library)
 {
-    const QStringList places{
-        QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation),
-        QCoreApplication::applicationDirPath() + QLatin1String("/../share"),
-        QStringLiteral(":"),
+    const QString below = QLatin1String("/daskel/themes/") + library;
+    const auto isTheme = [](const QString &folder) {
+        return QFileInfo::exists(folder + QLatin1String("/theme.json"));
     };
-    for (const QString &place : places) {
-        const QString folder = place + QLatin1String("/daskel/themes/") + library;
-        if (QFileInfo::exists(folder + QLatin1String("/theme.json")))
-            return QDir::cleanPath(folder);
-    }
-    return {};
+    const QString installed =
+        QCoreApplication::applicationDirPath() + QLatin1String("/../share") + below;
+    const QString builtIn = QLatin1Char(':') + below;
+    const QString personal =
+        QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + below;
+    QStringList folders;
+    if (isTheme(installed))
+        folders.append(QDir::cleanPath(installed));
+    else if (isTheme(builtIn))
+        folders.append(builtIn);
+    if (isTheme(personal))
+        folders.append(personal);
+    return folders;
+}
+
+void MThemePrivate::setScheme(M::ColorScheme scheme)
+{
+    const bool isDark = scheme == M::DarkScheme;
+    if (isDark == values.isDark)
+        return;
+    values.isDark = isDark;
+    restyleAll();
+}
+
+void MThemePrivate::stopFollowing()
+{
+    if (!preference)
+        return;
+    preference->disconnect(q);
+    preference.release()->deleteLater();
 }
 
 void MThemePrivate::restyleAll()
 {
     styles.clear();
-    imageFiles.clear();
     Q_EMIT q->changed();
 }
 
 MTheme *MTheme::instance()
 {
     static MTheme theme;
-    if (!theme.d->libraries.contains(QLatin1String(baseLibrary)))
-        theme.addLibrary(QLatin1String(baseLibrary));
     return &theme;
 }
 
-MTheme::MTheme() : d(std::make_unique<MThemePrivate>(this)) { }
+MTheme::MTheme() : d(std::make_unique<MThemePrivate>(this))
+{
+    addLibrary(QLatin1String(baseLibrary));
+}
 
 MTheme::~MTheme() = default;
 
@@ -98,14 +127,18 @@ bool MTheme::addLibrary(const QString &library)
     if (d->libraries.contains(library))
         return true;
     d->libraries.insert(library);
-    const QString folder = MThemePrivate::folderOf(library);
-    if (folder.isEmpty()) {
+    const QStringList folders = MThemePrivate::foldersOf(library);
+    if (folders.isEmpty())
         d->warn(QStringLiteral("There is no theme of the library \"%1\".").arg(library));
-        return false;
+    bool isRead = false;
+    for (const QString &folder : folders) {
+        d->imageFolders.prepend(folder + QLatin1String("/images"));
+        isRead = d->readFile(folder + QLatin1String("/theme.json")) || isRead;
     }
-    d->imageFolders.prepend(folder + QLatin1String("/images"));
-    const bool isRead = d->readFile(folder + QLatin1String("/theme.json"));
-    d->restyleAll();
+    d->imageFiles.clear();
+    clearPictures();
+    if (!folders.isEmpty())
+        d->restyleAll();
     return isRead;
 }
 
@@ -137,11 +170,8 @@ M::ColorScheme MTheme::colorScheme() const
 
 void MTheme::setColorScheme(M::ColorScheme scheme)
 {
-    d->preference.reset();
-    if (scheme == colorScheme())
-        return;
-    d->values.isDark = scheme == M::DarkScheme;
-    d->restyleAll();
+    d->stopFollowing();
+    d->setScheme(scheme);
 }
 
 void MTheme::followDesktop()
@@ -150,12 +180,7 @@ void MTheme::followDesktop()
         return;
     d->preference = std::make_unique<DesktopPreference>(nullptr);
     connect(d->preference.get(), &DesktopPreference::schemePreferred, this,
-            [this](M::ColorScheme scheme) {
-                if (scheme == colorScheme())
-                    return;
-                d->values.isDark = scheme == M::DarkScheme;
-                d->restyleAll();
-            });
+            [this](M::ColorScheme scheme) { d->setScheme(scheme); });
 }
 
 M::Orientation MTheme::orientation() const
@@ -213,10 +238,10 @@ int MTheme::measure(const QString &name) const
 
 QFont MTheme::font(const QString &name) const
 {
-    const QFont font = d->values.font(name);
-    if (font.pixelSize() <= 0)
+    const std::optional<QFont> font = d->values.font(name);
+    if (!font)
         d->warn(QStringLiteral("The theme has no font \"%1\".").arg(name));
-    return font;
+    return font.value_or(QFont());
 }
 
 QString MTheme::imageFile(const QString &id) const
@@ -234,6 +259,11 @@ QString MTheme::imageFile(const QString &id) const
     }
     d->imageFiles.insert(id, found);
     return found;
+}
+
+bool MTheme::isMirrored(const QString &id) const
+{
+    return d->rules.mirroredImages.contains(id);
 }
 
 QString MTheme::viewClass(const QMetaObject *widgetClass, const QString &viewType) const
@@ -254,17 +284,17 @@ QSharedPointer<const MStyle> MTheme::style(const std::function<MStyle *()> &make
                                            const QByteArray &mode)
 {
     const StyleKey key{styleClass, widgetClass, styleName, mode};
-    QSharedPointer<const MStyle> &kept = d->styles[key];
-    if (!kept) {
-        const QSharedPointer<MStyle> made(maker());
-        const StyleFiller filler(d->values, d->orientation, mode,
-                                 [this](const QString &text) { d->warn(text); });
-        filler.applyClasses(widgetClass, made.data());
-        if (!styleName.isEmpty())
-            filler.applyNamed(styleName, made.data());
-        kept = made;
-    }
-    return kept;
+    const auto kept = d->styles.constFind(key);
+    if (kept != d->styles.constEnd())
+        return *kept;
+    const QSharedPointer<MStyle> made(maker());
+    const StyleFiller filler(d->values, d->orientation, mode,
+                             [this](const QString &text) { d->warn(text); });
+    filler.applyClasses(widgetClass, made.data());
+    if (!styleName.isEmpty())
+        filler.applyNamed(styleName, made.data());
+    d->styles.insert(key, made);
+    return made;
 }
 
 int MTheme::styleCount() const

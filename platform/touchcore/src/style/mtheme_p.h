@@ -34,13 +34,17 @@ class MThemePrivate
 public:
     explicit MThemePrivate(MTheme *theme);
 
-    /// Reads the file and what it includes; the rules stand above those read before.
-    bool readFile(const QString &file);
+    /// Reads the file and what it includes; the rules stand above those read before. \a outer: the
+    /// files that are just being read.
+    bool readFile(const QString &file, const QStringList &outer = {});
     bool read(const QByteArray &json, const QString &source, QStringList *includes);
     /// Adds a warning that was not given before.
     void warn(const QString &text);
-    /// The folder of a library's theme, empty when there is none.
-    static QString folderOf(const QString &library);
+    /// The folders with a theme of the library, the one that stands above the others last.
+    static QStringList foldersOf(const QString &library);
+    void setScheme(M::ColorScheme scheme);
+    /// Lets go of the desktop's preference, which may be the one that is just being told.
+    void stopFollowing();
     /// Forgets the styles made so far and tells the widgets.
     void restyleAll();
 

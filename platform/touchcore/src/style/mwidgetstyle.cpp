@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The daskel authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
+#include "softshadow.h"
+
 #include <QPainter>
 #include <QPainterPath>
 
@@ -13,18 +15,6 @@ QMarginsF mirrored(const QMarginsF &margins, Qt::LayoutDirection direction)
     return direction == Qt::LeftToRight
         ? margins
         : QMarginsF(margins.right(), margins.top(), margins.left(), margins.bottom());
-}
-
-/// A few translucent outlines that fade with the distance: soft, and without a blurred bitmap.
-void drawShadow(QPainter *painter, const QRectF &frame, qreal radius, int width)
-{
-    const QColor shade(0, 0, 0, qMax(1, 60 / width));
-    painter->setBrush(shade);
-    for (int distance = width; distance > 0; --distance) {
-        const QRectF ring = frame.adjusted(-distance, -distance, distance, distance);
-        painter->drawRoundedRect(ring.translated(0, distance / 4.0), radius + distance,
-                                 radius + distance);
-    }
 }
 } // namespace
 
@@ -47,14 +37,14 @@ void MWidgetStyle::drawBackground(QPainter *painter, const QRectF &rect,
     if (cornerRadius() == 0 && shadow() == 0 && !hasBorder) {
         if (backgroundColor().isValid())
             painter->fillRect(frame, backgroundColor());
-        backgroundImage().draw(frame, painter);
+        backgroundImage().draw(frame, painter, QColor(), direction);
         return;
     }
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
     painter->setPen(Qt::NoPen);
     if (shadow() > 0)
-        drawShadow(painter, frame, cornerRadius(), shadow());
+        drawSoftShadow(painter, frame, cornerRadius(), shadow(), shadowColor());
     const qreal inset = hasBorder ? borderWidth() / 2.0 : 0;
     painter->setPen(hasBorder ? QPen(borderColor(), borderWidth()) : QPen(Qt::NoPen));
     painter->setBrush(backgroundColor().isValid() ? QBrush(backgroundColor()) : QBrush());
@@ -64,7 +54,7 @@ void MWidgetStyle::drawBackground(QPainter *painter, const QRectF &rect,
         QPainterPath outline;
         outline.addRoundedRect(frame, cornerRadius(), cornerRadius());
         painter->setClipPath(outline, Qt::IntersectClip);
-        backgroundImage().draw(frame, painter);
+        backgroundImage().draw(frame, painter, QColor(), direction);
     }
     painter->restore();
 }

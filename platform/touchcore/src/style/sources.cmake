@@ -14,6 +14,9 @@ set(TOUCHCORE_STYLE_SOURCES
     src/style/mwidgetstyle.cpp
     src/style/mstylecontainer.cpp
     src/style/mscalableimage.cpp
+    src/style/ninepatch.cpp
+    src/style/picture.cpp
+    src/style/softshadow.cpp
     src/style/mstylablewidget.cpp
     src/style/mtheme.cpp
     src/style/desktoppreference.cpp

@@ -10,22 +10,6 @@
 namespace
 {
 const int maximumDepth = 16;
-
-/// The blocks that a rule may hold beside its attributes.
-const QStringList &modes()
-{
-    static const QStringList names{
-        QStringLiteral("pressed"),  QStringLiteral("selected"), QStringLiteral("checked"),
-        QStringLiteral("disabled"), QStringLiteral("error"),    QStringLiteral("current"),
-    };
-    return names;
-}
-
-bool isBlock(const QString &name)
-{
-    return name == QLatin1String("landscape") || name == QLatin1String("portrait")
-        || modes().contains(name);
-}
 } // namespace
 
 StyleFiller::StyleFiller(const ThemeValues &values, M::Orientation orientation,
@@ -53,7 +37,7 @@ void StyleFiller::applyNamed(const QString &name, MStyle *style, int depth) cons
 {
     const QVector<ThemeRule> rules = m_values.rules->styles.value(name);
     if (rules.isEmpty()) {
-        m_report(QStringLiteral("no theme has a style \"%1\"").arg(name));
+        m_report(QStringLiteral("no theme has the style \"%1\"").arg(name));
         return;
     }
     QString base;
@@ -81,7 +65,7 @@ void StyleFiller::applyRules(const QString &name, const QVector<ThemeRule> &rule
 void StyleFiller::applyBlock(const QString &place, const QJsonObject &block, MStyle *style) const
 {
     for (auto attribute = block.begin(); attribute != block.end(); ++attribute) {
-        if (attribute.key() != QLatin1String("extends") && !isBlock(attribute.key()))
+        if (attribute.key() != QLatin1String("extends") && !isStyleBlock(attribute.key()))
             applyAttribute(place, attribute.key(), *attribute, style);
     }
 }

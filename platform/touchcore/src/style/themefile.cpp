@@ -3,11 +3,24 @@
 
 #include "themefile.h"
 
+#include <QColor>
 #include <QJsonArray>
 #include <QJsonDocument>
 
+#include <algorithm>
+
 namespace
 {
+/// What a widget may be in; each view says in which of them it is.
+const QStringList &modes()
+{
+    static const QStringList names{
+        QStringLiteral("pressed"),  QStringLiteral("selected"), QStringLiteral("checked"),
+        QStringLiteral("disabled"), QStringLiteral("error"),    QStringLiteral("current"),
+    };
+    return names;
+}
+
 /// Reads the sections of one file one by one.
 class ThemeReader
 {
@@ -25,6 +38,8 @@ public:
                 *includes += strings(name, *section);
             else if (name == QLatin1String("fontFamilies"))
                 m_rules.fontFamilies = strings(name, *section);
+            else if (name == QLatin1String("mirrored"))
+                addMirrored(strings(name, *section));
             else if (!section->isObject())
                 warn(QStringLiteral("\"%1\" must be an object").arg(name));
             else
@@ -36,9 +51,9 @@ private:
     void readTable(const QString &name, const QJsonObject &table)
     {
         if (name == QLatin1String("palette"))
-            readStrings(name, table, &m_rules.palette);
+            readPalette(name, table, &m_rules.palette);
         else if (name == QLatin1String("darkPalette"))
-            readStrings(name, table, &m_rules.darkPalette);
+            readPalette(name, table, &m_rules.darkPalette);
         else if (name == QLatin1String("fonts"))
             readStrings(name, table, &m_rules.fonts);
         else if (name == QLatin1String("views"))
@@ -51,6 +66,12 @@ private:
             readRules(name, table, &m_rules.styles);
         else
             warn(QStringLiteral("there is no section \"%1\"").arg(name));
+    }
+
+    void addMirrored(const QStringList &images)
+    {
+        for (const QString &image : images)
+            m_rules.mirroredImages.insert(image);
     }
 
     QStringList strings(const QString &name, const QJsonValue &value)
@@ -74,13 +95,23 @@ private:
         }
     }
 
+    void readPalette(const QString &name, const QJsonObject &table, QHash<QString, QString> *into)
+    {
+        for (auto entry = table.begin(); entry != table.end(); ++entry) {
+            if (QColor::isValidColor(entry->toString()))
+                into->insert(entry.key(), entry->toString());
+            else
+                warn(QStringLiteral("%1.%2 must be a colour").arg(name, entry.key()));
+        }
+    }
+
     void readMeasures(const QJsonObject &table)
     {
         for (auto entry = table.begin(); entry != table.end(); ++entry) {
-            if (entry->isDouble())
+            if (entry->toDouble() == entry->toInt(-1))
                 m_rules.measures.insert(entry.key(), entry->toInt());
             else
-                warn(QStringLiteral("measures.%1 must be a number").arg(entry.key()));
+                warn(QStringLiteral("measures.%1 must be a whole number").arg(entry.key()));
         }
     }
 
@@ -91,11 +122,23 @@ private:
                 warn(QStringLiteral("%1.%2 must be an object").arg(name, rule.key()));
                 continue;
             }
-            const QJsonObject block = rule->toObject();
-            m_rules.dependOnOrientation = m_rules.dependOnOrientation
-                || block.contains(QLatin1String("landscape"))
-                || block.contains(QLatin1String("portrait"));
-            (*into)[rule.key()].append({m_source, block});
+            checkBlocks(rule.key(), rule->toObject());
+            (*into)[rule.key()].append({m_source, rule->toObject()});
+        }
+    }
+
+    void checkBlocks(const QString &rule, const QJsonObject &attributes)
+    {
+        for (auto block = attributes.begin(); block != attributes.end(); ++block) {
+            if (!isStyleBlock(block.key()))
+                continue;
+            if (!block->isObject())
+                warn(QStringLiteral("%1.%2 must be an object").arg(rule, block.key()));
+            const QStringList inner = block->toObject().keys();
+            if (std::any_of(inner.begin(), inner.end(), isStyleBlock))
+                warn(QStringLiteral("%1.%2 cannot hold another block").arg(rule, block.key()));
+            if (isOrientationBlock(block.key()))
+                m_rules.dependOnOrientation = true;
         }
     }
 
@@ -106,6 +149,16 @@ private:
     QStringList &m_warnings;
 };
 } // namespace
+
+bool isOrientationBlock(const QString &name)
+{
+    return name == QLatin1String("landscape") || name == QLatin1String("portrait");
+}
+
+bool isStyleBlock(const QString &name)
+{
+    return isOrientationBlock(name) || modes().contains(name);
+}
 
 bool readTheme(const QByteArray &json, const QString &source, ThemeRules *rules,
                QStringList *includes, QStringList *warnings)

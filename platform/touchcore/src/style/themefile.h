@@ -6,6 +6,7 @@
 
 #include <QHash>
 #include <QJsonObject>
+#include <QSet>
 #include <QStringList>
 #include <QVector>
 
@@ -26,11 +27,17 @@ struct ThemeRules {
     QHash<QString, QString> fonts;
     QStringList fontFamilies;
     QHash<QString, QString> views;
+    QSet<QString> mirroredImages;
     Layers classes;
     Layers styles;
     /// Whether any rule says something about only one orientation.
     bool dependOnOrientation = false;
 };
+
+/// Whether \a name is that of a block that holds in one orientation.
+bool isOrientationBlock(const QString &name);
+/// Whether \a name is that of a block that holds in one orientation or mode of a widget.
+bool isStyleBlock(const QString &name);
 
 /// Adds what one theme text says to \a rules. A text that cannot be read changes nothing and
 /// answers false. \a includes: the files that it names to be read after it. What is wrong goes to

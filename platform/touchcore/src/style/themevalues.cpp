@@ -21,19 +21,6 @@ constexpr WeightWord weightWords[] = {
     {"bold", QFont::Bold},
 };
 
-bool isSize(int type)
-{
-    return type == QMetaType::QSize || type == QMetaType::QSizeF;
-}
-
-QVariant sizeOf(const QJsonArray &list, int type)
-{
-    if (list.size() != 2 || !list[0].isDouble() || !list[1].isDouble())
-        return {};
-    const QSizeF size(list[0].toDouble(), list[1].toDouble());
-    return type == QMetaType::QSize ? QVariant(size.toSize()) : QVariant(size);
-}
-
 /// "name" or ["name", left, top, right, bottom].
 QVariant imageOf(const QJsonValue &value)
 {
@@ -42,8 +29,34 @@ QVariant imageOf(const QJsonValue &value)
         return QVariant::fromValue(MScalableImage(value.toString()));
     if (list.size() != 5 || !list[0].isString())
         return {};
+    for (int i = 1; i < list.size(); ++i) {
+        if (list[i].toInt(-1) < 0)
+            return {};
+    }
     const QMargins borders(list[1].toInt(), list[2].toInt(), list[3].toInt(), list[4].toInt());
     return QVariant::fromValue(MScalableImage(list[0].toString(), borders));
+}
+
+/// \a text without the percentage behind a slash, which goes to \a alpha as 0 to 1; nothing when
+/// that is none.
+std::optional<QString> withoutAlpha(const QString &text, double *alpha)
+{
+    *alpha = 1;
+    const int slash = text.indexOf(QLatin1Char('/'));
+    if (slash < 0)
+        return text;
+    bool isNumber = false;
+    const int percent = text.midRef(slash + 1).toInt(&isNumber);
+    *alpha = percent / 100.0;
+    return isNumber && percent >= 0 && percent <= 100 ? std::optional<QString>(text.left(slash))
+                                                      : std::nullopt;
+}
+
+QColor withAlpha(QColor color, double alpha)
+{
+    if (color.isValid() && alpha < 1)
+        color.setAlphaF(color.alphaF() * alpha);
+    return color;
 }
 
 bool applyWord(const QString &word, QFont *font)
@@ -69,82 +82,109 @@ bool applyWord(const QString &word, QFont *font)
 }
 } // namespace
 
-QColor ThemeValues::color(const QString &text) const
+QColor ThemeValues::color(const QString &role) const
 {
-    const int slash = text.indexOf(QLatin1Char('/'));
-    const QString role = slash < 0 ? text : text.left(slash);
-    const QString plain = rules->palette.value(role);
-    QColor color(isDark ? rules->darkPalette.value(role, plain) : plain);
-    if (!color.isValid())
-        color = QColor(role);
-    if (slash >= 0) {
-        bool isNumber = false;
-        const int percent = text.midRef(slash + 1).toInt(&isNumber);
-        if (!isNumber || percent < 0 || percent > 100)
-            return {};
-        color.setAlphaF(percent / 100.0);
-    }
-    return color;
+    double alpha = 1;
+    const std::optional<QString> name = withoutAlpha(role, &alpha);
+    if (!name)
+        return {};
+    const QString light = rules->palette.value(*name);
+    return withAlpha(QColor(isDark ? rules->darkPalette.value(*name, light) : light), alpha);
 }
 
-QFont ThemeValues::font(const QString &text) const
+std::optional<QFont> ThemeValues::font(const QString &name) const
+{
+    return rules->fonts.contains(name) ? fontOf(rules->fonts.value(name)) : std::nullopt;
+}
+
+std::optional<QFont> ThemeValues::fontOf(const QString &words) const
 {
     QFont font;
     font.setPixelSize(1);
     if (!rules->fontFamilies.isEmpty())
         font.setFamilies(rules->fontFamilies);
-    QString words = rules->fonts.value(text, text);
-    const int quote = words.indexOf(QLatin1Char('\''));
-    if (quote >= 0) {
-        font.setFamily(words.mid(quote + 1).section(QLatin1Char('\''), 0, 0));
-        words.truncate(quote);
+    const QStringList parts = words.split(QLatin1Char('\''));
+    if (parts.size() == 3)
+        font.setFamilies(QStringList{parts[1]} + rules->fontFamilies);
+    else if (parts.size() != 1)
+        return std::nullopt;
+    const QString plain = parts.first() + QLatin1Char(' ') + parts.mid(2).join(QString());
+    const QStringList list = plain.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    bool hasSize = false;
+    for (const QString &word : list) {
+        if (!applyWord(word, &font))
+            return std::nullopt;
+        hasSize = hasSize || word.endsWith(QLatin1String("px"));
     }
-    bool isUnderstood = words.contains(QLatin1String("px"));
-    const QStringList list = words.split(QLatin1Char(' '), Qt::SkipEmptyParts);
-    for (const QString &word : list)
-        isUnderstood = applyWord(word, &font) && isUnderstood;
-    if (!isUnderstood)
-        return QFont();
+    if (!hasSize)
+        return std::nullopt;
     font.setPixelSize(qMax(1, qRound(font.pixelSize() * textScale)));
     return font;
+}
+
+std::optional<double> ThemeValues::number(const QJsonValue &value) const
+{
+    if (value.isDouble())
+        return value.toDouble();
+    const QString text = value.toString();
+    const auto measure = rules->measures.constFind(text.mid(1));
+    if (text.startsWith(QLatin1Char('@')) && measure != rules->measures.constEnd())
+        return *measure;
+    return std::nullopt;
 }
 
 QVariant ThemeValues::convert(const QJsonValue &value, int type) const
 {
     if (type == qMetaTypeId<MScalableImage>())
         return imageOf(value);
-    if (isSize(type))
-        return sizeOf(value.toArray(), type);
-    if (value.isString())
-        return convertText(value.toString(), type);
-    if (type == QMetaType::Bool)
+    switch (type) {
+    case QMetaType::QSize:
+    case QMetaType::QSizeF:
+        return convertSize(value.toArray(), type);
+    case QMetaType::Bool:
         return value.isBool() ? QVariant(value.toBool()) : QVariant();
-    if (!value.isDouble())
-        return {};
-    if (type == QMetaType::Int) {
-        const double number = value.toDouble();
-        return number == int(number) ? QVariant(int(number)) : QVariant();
+    case QMetaType::Int: {
+        const std::optional<double> found = number(value);
+        return found && *found == int(*found) ? QVariant(int(*found)) : QVariant();
     }
-    return type == QMetaType::Double ? QVariant(value.toDouble()) : QVariant();
+    case QMetaType::Double: {
+        const std::optional<double> found = number(value);
+        return found ? QVariant(*found) : QVariant();
+    }
+    default:
+        return value.isString() ? convertText(value.toString(), type) : QVariant();
+    }
+}
+
+QVariant ThemeValues::convertSize(const QJsonArray &sides, int type) const
+{
+    if (sides.size() != 2)
+        return {};
+    const std::optional<double> width = number(sides[0]);
+    const std::optional<double> height = number(sides[1]);
+    if (!width || !height)
+        return {};
+    const QSizeF size(*width, *height);
+    return type == QMetaType::QSize ? QVariant(size.toSize()) : QVariant(size);
 }
 
 QVariant ThemeValues::convertText(const QString &text, int type) const
 {
-    const QString name = text.startsWith(QLatin1Char('@')) ? text.mid(1) : text;
+    const bool isName = text.startsWith(QLatin1Char('@'));
     switch (type) {
     case QMetaType::QColor: {
         if (text.isEmpty())
             return QColor();
-        const QColor found = color(name);
+        double alpha = 1;
+        const std::optional<QString> literal = withoutAlpha(text, &alpha);
+        const QColor found =
+            isName ? color(text.mid(1)) : withAlpha(QColor(literal.value_or(QString())), alpha);
         return found.isValid() ? QVariant(found) : QVariant();
     }
     case QMetaType::QFont: {
-        const QFont found = font(name);
-        return found.pixelSize() > 0 ? QVariant(found) : QVariant();
+        const std::optional<QFont> found = isName ? font(text.mid(1)) : fontOf(text);
+        return found ? QVariant(*found) : QVariant();
     }
-    case QMetaType::Int:
-    case QMetaType::Double:
-        return rules->measures.contains(name) ? QVariant(rules->measures.value(name)) : QVariant();
     case QMetaType::QString:
         return text;
     default:

@@ -10,6 +10,8 @@
 #include <QFont>
 #include <QVariant>
 
+#include <optional>
+
 /// Turns what a theme file says into typed values: colours by role, fonts by name, measures, and
 /// the values of attributes.
 class ThemeValues
@@ -19,16 +21,20 @@ public:
     bool isDark = false;
     qreal textScale = 1;
 
-    /// \a text: a role of the palette, "role/percent" for a translucent one, or what QColor reads.
-    QColor color(const QString &text) const;
-    /// \a text: a name of the fonts, or words such as "16px", "bold", "italic", "'Family'". A font
-    /// without a size is invalid: pixelSize() is -1 then.
-    QFont font(const QString &text) const;
+    /// \a role: one of the palette, or "role/percent" for a translucent one; invalid for others.
+    QColor color(const QString &role) const;
+    /// The font \a name of the theme; nothing when there is none or it says no size.
+    std::optional<QFont> font(const QString &name) const;
     /// \a value for an attribute of the meta-type \a type; an invalid variant when it does not fit.
     QVariant convert(const QJsonValue &value, int type) const;
 
 private:
     QVariant convertText(const QString &text, int type) const;
+    QVariant convertSize(const QJsonArray &sides, int type) const;
+    /// A number, or "@" and the name of a measure.
+    std::optional<double> number(const QJsonValue &value) const;
+    /// \a words such as "16px", "bold", "italic", "'Family'".
+    std::optional<QFont> fontOf(const QString &words) const;
 };
 
 #endif
