@@ -260,6 +260,7 @@ int main(int argc, char *argv[])
         qunsetenv(name);
     qputenv("LANG", "en_US.UTF-8");
     qputenv("TZ", "Europe/Helsinki");
+    qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nowhere"); // the desktop here has no say
     tzset();
     QCoreApplication application(argc, argv);
     TestDaskelLocale test;
