@@ -96,6 +96,11 @@ public:
     /// clock. Empty for neither.
     QString icuFormatString(DateType dateType, TimeType timeType,
                             CalendarType calendarType = DefaultCalendar) const;
+    /// The pattern in which the locale writes the fields of \a skeleton (Unicode TS 35), with the
+    /// words and the order usual there: "yMMMM" is a month of a year, "MMMEd" a day of the week and
+    /// of the month. Empty when ICU does not know the skeleton.
+    QString icuPatternFor(const QString &skeleton) const;
+
     /// The date-time of \a calendar, in its zone and its type of calendar. Empty for neither date
     /// nor time, or when no date-time was set.
     QString formatDateTime(const MCalendar &calendar, DateType dateType, TimeType timeType) const;

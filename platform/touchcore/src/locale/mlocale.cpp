@@ -207,6 +207,11 @@ QString MLocale::formatDateTime(const MCalendar &calendar, const QString &patter
                           icuPatternFromPosix(pattern, formats, calendar.type()), calendar.type());
 }
 
+QString MLocale::icuPatternFor(const QString &skeleton) const
+{
+    return d->formats().patternFor(skeleton);
+}
+
 QString MLocale::formatDateTimeICU(const QDateTime &dateTime, const QString &pattern) const
 {
     return d->formats().format(dateTime, pattern, DefaultCalendar);

@@ -133,6 +133,20 @@ QString MLocaleFormats::timePattern(MLocale::TimeType time, MLocale::TimeFormat2
         error));
 }
 
+QString MLocaleFormats::patternFor(const QString &skeleton) const
+{
+    auto found = m_skeletonPatterns.find(skeleton);
+    if (found != m_skeletonPatterns.end())
+        return found->second;
+    UErrorCode error = U_ZERO_ERROR;
+    const std::unique_ptr<icu::DateTimePatternGenerator> generator(
+        icu::DateTimePatternGenerator::createInstance(m_locale, error));
+    QString pattern;
+    if (U_SUCCESS(error))
+        pattern = fromIcu(generator->getBestPattern(toIcu(skeleton), error));
+    return m_skeletonPatterns.emplace(skeleton, pattern).first->second;
+}
+
 QString MLocaleFormats::format(const QDateTime &dateTime, const QString &pattern,
                                MLocale::CalendarType calendar) const
 {

@@ -24,6 +24,8 @@ public:
     /// As MLocale::icuFormatString().
     QString pattern(MLocale::DateType date, MLocale::TimeType time,
                     MLocale::CalendarType calendar) const;
+    /// As MLocale::icuPatternFor().
+    QString patternFor(const QString &skeleton) const;
     /// A time alone, with this clock. \a time is not TimeNone.
     QString timePattern(MLocale::TimeType time, MLocale::TimeFormat24h clock) const;
     /// As MLocale::formatDateTimeICU(), on the type of calendar.
@@ -51,6 +53,7 @@ private:
     mutable MLocale::TimeFormat24h m_ownClock = MLocale::LocaleDefaultTimeFormat24h;
     mutable int m_firstDayOfWeek = 0;
     mutable std::map<int, QString> m_patterns;
+    mutable std::map<QString, QString> m_skeletonPatterns;
     mutable std::map<std::pair<int, QString>, Formatter> m_formatters;
 };
 
