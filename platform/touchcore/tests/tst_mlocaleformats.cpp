@@ -24,6 +24,8 @@ private Q_SLOTS:
     void usesTheChosenClock();
     void knowsTheUsualClock_data();
     void knowsTheUsualClock();
+    void writesFieldsInTheirUsualOrder_data();
+    void writesFieldsInTheirUsualOrder();
     void formatsByIcuPattern_data();
     void formatsByIcuPattern();
     void showsTheTimeThatIsSaid_data();
@@ -250,6 +252,31 @@ void TestMLocaleFormats::knowsTheUsualClock()
         QCOMPARE(formats.timeFormat24h(), chosen);
         QCOMPARE(formats.defaultTimeFormat24h(), clock);
     }
+}
+
+void TestMLocaleFormats::writesFieldsInTheirUsualOrder_data()
+{
+    QTest::addColumn<QString>("locale");
+    QTest::addColumn<QString>("month");
+
+    // CLDR lists these for the fields "yMMMM".
+    QTest::newRow("en_US") << QStringLiteral("en_US") << QStringLiteral("March 2027");
+    QTest::newRow("de_DE") << QStringLiteral("de_DE") << QStringLiteral("März 2027");
+    QTest::newRow("fi_FI") << QStringLiteral("fi_FI") << QStringLiteral("maaliskuu 2027");
+    QTest::newRow("ar_EG") << QStringLiteral("ar_EG") << QStringLiteral("مارس ٢٠٢٧");
+    QTest::newRow("ja_JP") << QStringLiteral("ja_JP") << QStringLiteral("2027年3月");
+    QTest::newRow("zh_TW") << QStringLiteral("zh_TW") << QStringLiteral("2027年3月");
+}
+
+void TestMLocaleFormats::writesFieldsInTheirUsualOrder()
+{
+    QFETCH(QString, locale);
+    QFETCH(QString, month);
+    const MLocale formats(locale);
+    const QString pattern = formats.icuPatternFor(QStringLiteral("yMMMM"));
+    QCOMPARE(formats.formatDateTimeICU(afternoon, pattern), month);
+    QCOMPARE(formats.icuPatternFor(QStringLiteral("yMMMM")), pattern);
+    QCOMPARE(formats.icuPatternFor(QString()), QString());
 }
 
 void TestMLocaleFormats::formatsByIcuPattern_data()
