@@ -16,7 +16,9 @@
 namespace
 {
 const char baseLibrary[] = "base";
-}
+/// The values of the desktop's setting: 0 no preference, 1 dark, 2 light.
+const uint preferDark = 1;
+} // namespace
 
 uint qHash(const StyleKey &key, uint seed)
 {
@@ -93,6 +95,11 @@ void MThemePrivate::setScheme(M::ColorScheme scheme)
         return;
     values.isDark = isDark;
     restyleAll();
+}
+
+void MThemePrivate::followPreference()
+{
+    setScheme(preference->value().toUInt() == preferDark ? M::DarkScheme : M::LightScheme);
 }
 
 void MThemePrivate::stopFollowing()
@@ -178,9 +185,11 @@ void MTheme::followDesktop()
 {
     if (d->preference)
         return;
-    d->preference = std::make_unique<DesktopPreference>(nullptr);
-    connect(d->preference.get(), &DesktopPreference::schemePreferred, this,
-            [this](M::ColorScheme scheme) { d->setScheme(scheme); });
+    d->preference = std::make_unique<MDesktopSetting>(QStringLiteral("org.freedesktop.appearance"),
+                                                      QStringLiteral("color-scheme"), nullptr);
+    connect(d->preference.get(), &MDesktopSetting::changed, this,
+            [this] { d->followPreference(); });
+    d->followPreference();
 }
 
 M::Orientation MTheme::orientation() const

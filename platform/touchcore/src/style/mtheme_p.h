@@ -4,7 +4,7 @@
 #ifndef TOUCHCORE_MTHEME_P_H
 #define TOUCHCORE_MTHEME_P_H
 
-#include "desktoppreference.h"
+#include "locale/mdesktopsetting.h"
 #include "themevalues.h"
 
 #include <QSet>
@@ -43,7 +43,9 @@ public:
     /// The folders with a theme of the library, the one that stands above the others last.
     static QStringList foldersOf(const QString &library);
     void setScheme(M::ColorScheme scheme);
-    /// Lets go of the desktop's preference, which may be the one that is just being told.
+    /// The scheme that the desktop prefers, light where it says nothing.
+    void followPreference();
+    /// Lets go of the desktop's preference, which may be just telling of a change.
     void stopFollowing();
     /// Forgets the styles made so far and tells the widgets.
     void restyleAll();
@@ -58,7 +60,7 @@ public:
     QStringList imageFolders; ///< of later libraries first
     mutable QHash<QString, QString> imageFiles;
     QHash<StyleKey, QSharedPointer<const MStyle>> styles;
-    std::unique_ptr<DesktopPreference> preference;
+    std::unique_ptr<MDesktopSetting> preference;
 };
 
 #endif

@@ -19,7 +19,6 @@ set(TOUCHCORE_STYLE_SOURCES
     src/style/softshadow.cpp
     src/style/mstylablewidget.cpp
     src/style/mtheme.cpp
-    src/style/desktoppreference.cpp
     src/style/stylefiller.cpp
     src/style/themefile.cpp
     src/style/themevalues.cpp
