@@ -1,0 +1,413 @@
+// SPDX-FileCopyrightText: 2026 The daskel authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "panelayout.h"
+#include "pangesture.h"
+#include "wheelwatcher.h"
+
+#include <touchcore/mpannableviewport.h>
+#include <touchcore/mphysics2dpanning.h>
+#include <touchcore/mpositionindicator.h>
+
+#include <QGraphicsScene>
+#include <QGraphicsSceneMouseEvent>
+#include <QGraphicsSceneWheelEvent>
+#include <QKeyEvent>
+#include <QPointer>
+#include <QScopedValueRollback>
+#include <QTimer>
+#include <QWidget>
+
+#include <algorithm>
+
+namespace
+{
+const qreal degreesPerNotch = 15;
+const qreal angleUnit = 8;
+
+bool hasTabStop(const QGraphicsWidget *widget)
+{
+    if ((widget->focusPolicy() & Qt::TabFocus) && widget->isEnabled() && widget->isVisible())
+        return true;
+    const QList<QGraphicsItem *> children = widget->childItems();
+    return std::any_of(children.begin(), children.end(), [](const QGraphicsItem *child) {
+        return child->isWidget() && hasTabStop(static_cast<const QGraphicsWidget *>(child));
+    });
+}
+
+/// The least way from \a position that brings the part [low, high] into a window of \a length.
+qreal wayToShow(qreal position, qreal length, qreal low, qreal high)
+{
+    if (low < position || high - low > length)
+        return low - position;
+    return qMax(0.0, high - position - length);
+}
+} // namespace
+
+class MPannableViewportPrivate
+{
+public:
+    explicit MPannableViewportPrivate(MPannableViewport *owner)
+        : q(owner), pane(new QGraphicsWidget(owner)),
+          layout(new PaneLayout(pane, [owner] { owner->updateExtent(); })),
+          indicator(new MPositionIndicator(owner)), gesture(owner)
+    {
+        pane->setFlag(QGraphicsItem::ItemHasNoContents);
+        grabCheck.setSingleShot(true);
+        QObject::connect(&grabCheck, &QTimer::timeout, owner, [this] { abandonIfUngrabbed(); });
+    }
+
+    QSizeF widgetSize() const;
+    void show(const QPointF &position);
+    void followFocus(QGraphicsItem *focused);
+    void panByKey(QKeyEvent *event);
+    void abandonIfUngrabbed();
+
+    MPannableViewport *q;
+    /// Moves instead of the widget, which so keeps its geometry.
+    QGraphicsWidget *pane;
+    PaneLayout *layout;
+    MPositionIndicator *indicator;
+    QPointer<QGraphicsWidget> widget;
+    MPhysics2DPanning *physics = nullptr;
+    PanGesture gesture;
+    /// A turn of the event loop later.
+    QTimer grabCheck;
+    MPannableViewport::PanningPolicy verticalPolicy = MPannableViewport::PanningAlwaysOn;
+    MPannableViewport::PanningPolicy horizontalPolicy = MPannableViewport::PanningAlwaysOff;
+    bool isUpdatingExtent = false;
+    QMetaObject::Connection focusConnection;
+    QPointer<QWidget> watchedWidget;
+};
+
+QSizeF MPannableViewportPrivate::widgetSize() const
+{
+    const QSizeF room = q->size();
+    qreal width = room.width();
+    if (horizontalPolicy != MPannableViewport::PanningAlwaysOff)
+        width = qMax(width, widget->effectiveSizeHint(Qt::PreferredSize).width());
+    const QSizeF wanted = widget->effectiveSizeHint(Qt::PreferredSize, QSizeF(width, -1));
+    const qreal highest = widget->effectiveSizeHint(Qt::MaximumSize).height();
+    return {width, qMin(qMax(wanted.height(), room.height()), qMax(wanted.height(), highest))};
+}
+
+void MPannableViewportPrivate::show(const QPointF &position)
+{
+    // Between pixels, every text would be drawn anew and blurred.
+    pane->setPos(-QPointF(qRound(position.x()), qRound(position.y())));
+    indicator->setExtent(physics->range(), position);
+    Q_EMIT q->positionChanged(position);
+}
+
+void MPannableViewportPrivate::followFocus(QGraphicsItem *focused)
+{
+    if (!widget || !focused || !widget->isAncestorOf(focused))
+        return;
+    const QRectF area = focused->mapRectToItem(widget, focused->boundingRect());
+    if (area.height() <= q->size().height())
+        q->ensureVisible(area);
+}
+
+void MPannableViewportPrivate::panByKey(QKeyEvent *event)
+{
+    const qreal step = q->style()->panStep();
+    const qreal page = qMax(step, q->size().height() - step);
+    const qreal all = physics->range().height() + page;
+    const bool isVertical = q->pannableDirections() & Qt::Vertical;
+    QPointF way;
+    switch (event->key()) {
+    case Qt::Key_Up:
+        way.setY(-step);
+        break;
+    case Qt::Key_Down:
+        way.setY(step);
+        break;
+    case Qt::Key_PageUp:
+        way.setY(-page);
+        break;
+    case Qt::Key_PageDown:
+        way.setY(page);
+        break;
+    case Qt::Key_Home:
+        way.setY(-all);
+        break;
+    case Qt::Key_End:
+        way.setY(all);
+        break;
+    case Qt::Key_Left:
+        way.setX(-step);
+        break;
+    case Qt::Key_Right:
+        way.setX(step);
+        break;
+    default:
+        break;
+    }
+    const bool isPannable =
+        way.x() != 0 ? bool(q->pannableDirections() & Qt::Horizontal) : way.y() != 0 && isVertical;
+    event->setAccepted(isPannable && physics->glideBy(way));
+}
+
+void MPannableViewportPrivate::abandonIfUngrabbed()
+{
+    const QGraphicsItem *grabber = q->scene() ? q->scene()->mouseGrabberItem() : nullptr;
+    const bool isOurs = grabber && (grabber == q || q->isAncestorOf(grabber));
+    if (gesture.isFollowing() && !isOurs)
+        gesture.abandon();
+}
+
+MPannableViewport::MPannableViewport(QGraphicsItem *parent)
+    : MStylableWidget(parent), d(std::make_unique<MPannableViewportPrivate>(this))
+{
+    setFlag(ItemClipsChildrenToShape);
+    setFiltersChildEvents(true);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    setPhysics(new MPhysics2DPanning(this));
+}
+
+MPannableViewport::~MPannableViewport()
+{
+    disconnect(d->focusConnection);
+    // The pane's layout calls back into the private part.
+    delete d->pane;
+}
+
+void MPannableViewport::setWidget(QGraphicsWidget *widget)
+{
+    if (widget == d->widget)
+        return;
+    delete d->widget;
+    d->widget = widget;
+    d->physics->stop();
+    d->layout->setItem(widget);
+    if (widget)
+        widget->setPos(0, 0);
+    updateExtent();
+    setPosition(d->physics->range().topLeft());
+}
+
+QGraphicsWidget *MPannableViewport::widget() const
+{
+    return d->widget;
+}
+
+MPhysics2DPanning *MPannableViewport::physics() const
+{
+    return d->physics;
+}
+
+void MPannableViewport::setPhysics(MPhysics2DPanning *physics)
+{
+    Q_ASSERT(physics);
+    if (physics == d->physics)
+        return;
+    if (d->physics) {
+        d->physics->stop();
+        physics->setRange(d->physics->range());
+        physics->setPosition(d->physics->position());
+        delete d->physics;
+    }
+    d->physics = physics;
+    physics->setParent(this);
+    physics->setDirections(pannableDirections());
+    connect(physics, &MPhysics2DPanning::positionChanged, this,
+            [this](const QPointF &position) { d->show(position); });
+    connect(physics, &MPhysics2DPanning::panningStarted, this, &MPannableViewport::panningStarted);
+    connect(physics, &MPhysics2DPanning::panningStopped, this, &MPannableViewport::panningStopped);
+}
+
+QPointF MPannableViewport::position() const
+{
+    return d->physics->position();
+}
+
+void MPannableViewport::setPosition(const QPointF &position)
+{
+    d->physics->setPosition(position);
+}
+
+void MPannableViewport::ensureVisible(const QRectF &area)
+{
+    const QPointF from = position();
+    const QPointF way(wayToShow(from.x(), size().width(), area.left(), area.right()),
+                      wayToShow(from.y(), size().height(), area.top(), area.bottom()));
+    if (way.isNull())
+        return;
+    d->physics->stop();
+    setPosition(from + way);
+}
+
+MPannableViewport::PanningPolicy MPannableViewport::verticalPanningPolicy() const
+{
+    return d->verticalPolicy;
+}
+
+void MPannableViewport::setVerticalPanningPolicy(PanningPolicy policy)
+{
+    d->verticalPolicy = policy;
+    updateExtent();
+}
+
+MPannableViewport::PanningPolicy MPannableViewport::horizontalPanningPolicy() const
+{
+    return d->horizontalPolicy;
+}
+
+void MPannableViewport::setHorizontalPanningPolicy(PanningPolicy policy)
+{
+    d->horizontalPolicy = policy;
+    updateExtent();
+}
+
+Qt::Orientations MPannableViewport::pannableDirections() const
+{
+    const QRectF range = d->physics->range();
+    const auto isPannable = [](PanningPolicy policy, qreal room) {
+        return policy == PanningAlwaysOn || (policy == PanningAsNeeded && room > 0);
+    };
+    Qt::Orientations directions;
+    directions.setFlag(Qt::Vertical, isPannable(d->verticalPolicy, range.height()));
+    directions.setFlag(Qt::Horizontal, isPannable(d->horizontalPolicy, range.width()));
+    return directions;
+}
+
+MPositionIndicator *MPannableViewport::positionIndicator() const
+{
+    return d->indicator;
+}
+
+void MPannableViewport::updateExtent()
+{
+    if (d->isUpdatingExtent)
+        return;
+    const QScopedValueRollback<bool> guard(d->isUpdatingExtent, true);
+    const QSizeF wanted = d->widget ? d->widgetSize() : size();
+    const QSizeF room = (wanted - size()).expandedTo(QSizeF(0, 0));
+    d->physics->setRange(d->physics->range() | QRectF(QPointF(), room));
+    if (d->widget)
+        d->widget->setGeometry(QRectF(QPointF(), wanted));
+    d->physics->setRange(QRectF(QPointF(), room));
+    d->physics->setDirections(pannableDirections());
+    d->indicator->setExtent(d->physics->range(), position());
+    // Content without a place for the keyboard's focus is panned from the viewport itself.
+    const bool isTabStop = d->widget && !hasTabStop(d->widget) && pannableDirections();
+    setFocusPolicy(isTabStop ? Qt::TabFocus : Qt::NoFocus);
+}
+
+void MPannableViewport::paint(QPainter *painter, const QStyleOptionGraphicsItem *option,
+                              QWidget *widget)
+{
+    if (widget && widget != d->watchedWidget) {
+        d->watchedWidget = widget;
+        WheelWatcher::watch(widget);
+    }
+    MStylableWidget::paint(painter, option, widget);
+}
+
+bool MPannableViewport::sceneEventFilter(QGraphicsItem *, QEvent *event)
+{
+    switch (event->type()) {
+    case QEvent::GraphicsSceneMousePress:
+    case QEvent::GraphicsSceneMouseDoubleClick:
+    case QEvent::GraphicsSceneMouseMove:
+    case QEvent::GraphicsSceneMouseRelease:
+        return d->gesture.filter(static_cast<QGraphicsSceneMouseEvent *>(event));
+    case QEvent::UngrabMouse:
+        // Also between two items to which a press is offered: later it is known who has it.
+        if (d->gesture.isFollowing())
+            d->grabCheck.start();
+        return false;
+    default:
+        return false;
+    }
+}
+
+void MPannableViewport::mousePressEvent(QGraphicsSceneMouseEvent *event)
+{
+    d->gesture.filter(event);
+    event->setAccepted(event->button() == Qt::LeftButton && pannableDirections());
+}
+
+void MPannableViewport::mouseMoveEvent(QGraphicsSceneMouseEvent *event)
+{
+    d->gesture.filter(event);
+}
+
+void MPannableViewport::mouseReleaseEvent(QGraphicsSceneMouseEvent *event)
+{
+    d->gesture.filter(event);
+}
+
+void MPannableViewport::ungrabMouseEvent(QEvent *event)
+{
+    if (d->gesture.isFollowing())
+        d->gesture.abandon();
+    MStylableWidget::ungrabMouseEvent(event);
+}
+
+void MPannableViewport::wheelEvent(QGraphicsSceneWheelEvent *event)
+{
+    const Qt::Orientations directions = pannableDirections();
+    const QPointF pixels = WheelWatcher::pixelDelta();
+    const qreal notches = event->delta() / angleUnit / degreesPerNotch;
+    QPointF way = pixels;
+    if (pixels.isNull()) {
+        const qreal distance = notches * style()->panStep();
+        // A plain wheel also pans what can only be panned sideways.
+        const bool isSideways =
+            event->orientation() == Qt::Horizontal || !(directions & Qt::Vertical);
+        way = isSideways ? QPointF(distance, 0) : QPointF(0, distance);
+    }
+    if (!(directions & Qt::Horizontal))
+        way.setX(0);
+    if (!(directions & Qt::Vertical))
+        way.setY(0);
+    if (way.isNull()) {
+        event->ignore();
+        return;
+    }
+    event->setAccepted(pixels.isNull() ? d->physics->glideBy(-way) : d->physics->moveBy(-way));
+}
+
+void MPannableViewport::keyPressEvent(QKeyEvent *event)
+{
+    d->panByKey(event);
+    if (!event->isAccepted())
+        MStylableWidget::keyPressEvent(event);
+}
+
+void MPannableViewport::resizeEvent(QGraphicsSceneResizeEvent *event)
+{
+    MStylableWidget::resizeEvent(event);
+    d->indicator->setGeometry(rect());
+    updateExtent();
+    // What is being written in stays in view when an on-screen keyboard takes its room.
+    if (scene())
+        d->followFocus(scene()->focusItem());
+}
+
+QVariant MPannableViewport::itemChange(GraphicsItemChange change, const QVariant &value)
+{
+    if (change == ItemSceneHasChanged) {
+        disconnect(d->focusConnection);
+        if (scene()) {
+            d->focusConnection =
+                connect(scene(), &QGraphicsScene::focusItemChanged, this,
+                        [this](QGraphicsItem *focused, QGraphicsItem *, Qt::FocusReason reason) {
+                            // What was touched is in view, and must not move away below the finger.
+                            if (reason != Qt::MouseFocusReason)
+                                d->followFocus(focused);
+                        });
+        }
+    }
+    return MStylableWidget::itemChange(change, value);
+}
+
+QSizeF MPannableViewport::sizeHint(Qt::SizeHint which, const QSizeF &) const
+{
+    const QSizeF none =
+        which == Qt::MaximumSize ? QSizeF(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX) : QSizeF(0, 0);
+    const QSizeF styled = style()->sizeHint(which);
+    return {styled.width() >= 0 ? styled.width() : none.width(),
+            styled.height() >= 0 ? styled.height() : none.height()};
+}
