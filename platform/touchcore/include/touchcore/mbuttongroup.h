@@ -14,8 +14,8 @@ class MButtonGroupPrivate;
 
 /// Buttons of which at most one is checked: the answers to one question.
 ///
-/// It neither owns nor lays out its buttons; a button that is deleted leaves the group. UI thread
-/// only.
+/// It neither owns nor lays out its buttons; a button that is deleted leaves the group without
+/// a signal. UI thread only.
 class MButtonGroup : public QObject
 {
     Q_OBJECT
@@ -53,6 +53,9 @@ Q_SIGNALS:
     void checkedIdChanged(int id);
 
 private:
+    friend class MButton;
+    /// Without a signal: a button may go because its page goes, with those who would hear of it.
+    void forget(MButton *button);
     void buttonToggled(MButton *button, bool isChecked);
     void tellCheckedId();
 

@@ -8,7 +8,8 @@
 
 class MButtonSwitchViewPrivate;
 
-/// The view type "icon": the picture alone. The text is for those who listen.
+/// The view type "icon": the picture alone, never larger than it prefers. The text is for those who
+/// listen.
 class MButtonIconView : public MButtonView
 {
     Q_OBJECT
@@ -16,6 +17,7 @@ class MButtonIconView : public MButtonView
 public:
     explicit MButtonIconView(MButton *button);
     void drawContents(QPainter *painter) const override;
+    QSizeF sizeHint(Qt::SizeHint which, const QSizeF &constraint) const override;
 
 protected:
     QString defaultStyleName() const override;
@@ -64,6 +66,8 @@ protected:
     /// Whether the mark stands before the text.
     virtual bool isMarkAtStart() const { return false; }
     virtual void drawMark(QPainter *painter, const QRectF &rect) const = 0;
+    /// Draws the background and border of the mark.
+    void drawMarkFrame(QPainter *painter, const QRectF &rect, qreal radius) const;
 
 private:
     qreal markRoom() const;

@@ -4,10 +4,10 @@
 #ifndef TOUCHCORE_ICONPAINTER_H
 #define TOUCHCORE_ICONPAINTER_H
 
+#include <touchcore/mscalableimage.h>
+
 #include <QColor>
 #include <QRectF>
-
-#include <touchcore/mscalableimage.h>
 
 class QPainter;
 

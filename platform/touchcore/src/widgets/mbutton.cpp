@@ -4,11 +4,11 @@
 #include "mbutton_p.h"
 #include "press.h"
 
-#include <QGraphicsSceneMouseEvent>
-#include <QKeyEvent>
-
 #include <touchcore/mbuttongroup.h>
 #include <touchcore/mwidgetview.h>
+
+#include <QGraphicsSceneMouseEvent>
+#include <QKeyEvent>
 
 MButton::MButton(QGraphicsItem *parent) : MButton(QString(), parent) { }
 
@@ -17,12 +17,13 @@ MButton::MButton(const QString &text, QGraphicsItem *parent)
 {
     model()->setText(text);
     setFocusPolicy(Qt::StrongFocus);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
 }
 
 MButton::~MButton()
 {
     if (d->group)
-        d->group->removeButton(this);
+        d->group->forget(this);
 }
 
 QString MButton::text() const

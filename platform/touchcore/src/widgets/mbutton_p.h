@@ -4,10 +4,10 @@
 #ifndef TOUCHCORE_MBUTTON_P_H
 #define TOUCHCORE_MBUTTON_P_H
 
-#include <QPointer>
-
 #include <touchcore/mbutton.h>
 #include <touchcore/mbuttongroup.h>
+
+#include <QPointer>
 
 class MButtonPrivate
 {

@@ -51,7 +51,7 @@ MButtonGroup::MButtonGroup(QObject *parent)
 MButtonGroup::~MButtonGroup()
 {
     while (!d->members.isEmpty())
-        removeButton(d->members.last().button);
+        forget(d->members.last().button);
 }
 
 void MButtonGroup::addButton(MButton *button, int id)
@@ -74,14 +74,19 @@ void MButtonGroup::addButton(MButton *button, int id)
 
 void MButtonGroup::removeButton(MButton *button)
 {
-    const auto member = d->find(button);
-    if (member == d->members.constEnd())
+    if (id(button) < 0)
         return;
+    forget(button);
+    tellCheckedId();
+}
+
+void MButtonGroup::forget(MButton *button)
+{
+    const auto member = d->find(button);
     d->members.erase(d->members.begin() + (member - d->members.constBegin()));
     disconnect(button, nullptr, this, nullptr);
     button->d->group.clear();
     d->updateSegments();
-    tellCheckedId();
 }
 
 QList<MButton *> MButtonGroup::buttons() const

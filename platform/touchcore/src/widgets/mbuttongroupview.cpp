@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The daskel authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-#include <QPainter>
-
 #include <touchcore/mbutton.h>
 #include <touchcore/mbuttongroup.h>
 #include <touchcore/mbuttonviews.h>
 #include <touchcore/mviewfactory.h>
+
+#include <QPainter>
 
 M_REGISTER_VIEW(MButtonGroupView, MButton)
 

@@ -4,14 +4,14 @@
 #include "iconpainter.h"
 #include "textblock.h"
 
-#include <QPainter>
-#include <QStyle>
-#include <QtMath>
-
 #include <touchcore/mbutton.h>
 #include <touchcore/mbuttonview.h>
 #include <touchcore/mtheme.h>
 #include <touchcore/mviewfactory.h>
+
+#include <QPainter>
+#include <QStyle>
+#include <QtMath>
 
 M_REGISTER_VIEW(MButtonView, MButton)
 

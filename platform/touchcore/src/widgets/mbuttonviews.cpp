@@ -1,14 +1,16 @@
 // SPDX-FileCopyrightText: 2026 The daskel authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-#include <QPainter>
-#include <QStyle>
-#include <QVariantAnimation>
+#include "iconpainter.h"
 
 #include <touchcore/mbutton.h>
 #include <touchcore/mbuttonviews.h>
 #include <touchcore/mtheme.h>
 #include <touchcore/mviewfactory.h>
+
+#include <QPainter>
+#include <QStyle>
+#include <QVariantAnimation>
 
 M_REGISTER_VIEW(MButtonIconView, MButton)
 M_REGISTER_VIEW(MButtonTabView, MButton)
@@ -30,7 +32,13 @@ QSizeF MButtonIconView::contentsSize(qreal) const
 
 void MButtonIconView::drawContents(QPainter *painter) const
 {
-    drawIcon(painter, contentsRect());
+    drawIcon(painter, centered(style()->iconSize(), contentsRect()));
+}
+
+QSizeF MButtonIconView::sizeHint(Qt::SizeHint which, const QSizeF &constraint) const
+{
+    // Stretched, a round button would be none.
+    return MButtonView::sizeHint(which == Qt::MaximumSize ? Qt::PreferredSize : which, constraint);
 }
 
 MButtonTabView::MButtonTabView(MButton *button) : MButtonView(button) { }
@@ -53,7 +61,7 @@ void MButtonTabView::drawContents(QPainter *painter) const
     const qreal used = contentsSize(rect.width()).height();
     rect.setTop(rect.top() + qRound((rect.height() - used) / 2));
     rect.setHeight(style()->iconSize().height());
-    drawIcon(painter, rect);
+    drawIcon(painter, centered(style()->iconSize(), rect));
     rect.setTop(rect.bottom() + style()->spacing());
     rect.setHeight(textSize(rect.width()).height());
     drawText(painter, rect);
@@ -94,6 +102,17 @@ void MButtonMarkView::drawContents(QPainter *painter) const
     painter->setRenderHint(QPainter::Antialiasing);
     drawMark(painter, QStyle::visualRect(direction, room, mark));
     painter->restore();
+}
+
+void MButtonMarkView::drawMarkFrame(QPainter *painter, const QRectF &rect, qreal radius) const
+{
+    // A border of the same colour would show through where the whole is translucent.
+    const bool hasBorder = style()->markBorderColor() != style()->markBackgroundColor();
+    const qreal line = hasBorder ? style()->markBorderWidth() : 0;
+    painter->setPen(hasBorder ? QPen(style()->markBorderColor(), line) : QPen(Qt::NoPen));
+    painter->setBrush(style()->markBackgroundColor());
+    painter->drawRoundedRect(rect.adjusted(line / 2, line / 2, -line / 2, -line / 2),
+                             radius - line / 2, radius - line / 2);
 }
 
 class MButtonSwitchViewPrivate
@@ -143,10 +162,7 @@ void MButtonSwitchView::updateData(const QList<const char *> &modifications)
 void MButtonSwitchView::drawMark(QPainter *painter, const QRectF &rect) const
 {
     const qreal line = style()->markBorderWidth();
-    const QRectF track = rect.adjusted(line / 2, line / 2, -line / 2, -line / 2);
-    painter->setPen(QPen(style()->markBorderColor(), line));
-    painter->setBrush(style()->markBackgroundColor());
-    painter->drawRoundedRect(track, track.height() / 2, track.height() / 2);
+    drawMarkFrame(painter, rect, rect.height() / 2);
     const qreal gap = 2 * line;
     const qreal diameter = rect.height() - 2 * gap;
     const qreal way = rect.width() - 2 * gap - diameter;
@@ -167,11 +183,7 @@ QString MButtonCheckView::defaultStyleName() const
 
 void MButtonCheckView::drawMark(QPainter *painter, const QRectF &rect) const
 {
-    const qreal inset = style()->markBorderWidth() / 2.0;
-    painter->setPen(QPen(style()->markBorderColor(), style()->markBorderWidth()));
-    painter->setBrush(style()->markBackgroundColor());
-    painter->drawRoundedRect(rect.adjusted(inset, inset, -inset, -inset), style()->markRadius(),
-                             style()->markRadius());
+    drawMarkFrame(painter, rect, style()->markRadius());
     if (button()->isChecked())
         style()->markImage().draw(rect, painter, style()->markColor());
 }

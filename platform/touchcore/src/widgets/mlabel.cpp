@@ -3,14 +3,14 @@
 
 #include "mlabel_p.h"
 
+#include <touchcore/mlabel.h>
+#include <touchcore/mtheme.h>
+
 #include <QEvent>
 #include <QGraphicsSceneMouseEvent>
 #include <QPainter>
 #include <QStyleOptionGraphicsItem>
 #include <QtMath>
-
-#include <touchcore/mlabel.h>
-#include <touchcore/mtheme.h>
 
 bool MLabelPrivate::isRich() const
 {

@@ -3,11 +3,11 @@
 
 #include "press.h"
 
+#include <touchcore/mlistitem.h>
+
 #include <QGraphicsSceneContextMenuEvent>
 #include <QGraphicsSceneMouseEvent>
 #include <QKeyEvent>
-
-#include <touchcore/mlistitem.h>
 
 MListItem::MListItem(QGraphicsItem *parent) : MStylableWidget(parent)
 {

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The daskel authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-#include <QPainter>
-
 #include <touchcore/mseparator.h>
+
+#include <QPainter>
 
 MSeparator::MSeparator(QGraphicsItem *parent, Qt::Orientation orientation)
     : MStylableWidget(parent), m_orientation(orientation)

@@ -13,6 +13,13 @@ set(TOUCHCORE_WIDGETS_HEADERS
     include/touchcore/mbuttonstyle.h
     include/touchcore/mbuttonview.h
     include/touchcore/mbuttonviews.h
+    include/touchcore/mtextedit.h
+    include/touchcore/mslider.h
+    include/touchcore/mprogressindicator.h
+    include/touchcore/mcellgrid.h
+    include/touchcore/mdatepicker.h
+    include/touchcore/mtimepicker.h
+    include/touchcore/mchoicelist.h
 )
 set(TOUCHCORE_WIDGETS_SOURCES
     src/widgets/textblock.cpp
@@ -29,4 +36,18 @@ set(TOUCHCORE_WIDGETS_SOURCES
     src/widgets/mbuttonview.cpp
     src/widgets/mbuttonviews.cpp
     src/widgets/mbuttongroupview.cpp
+    src/widgets/linefield.cpp
+    src/widgets/areafield.cpp
+    src/widgets/textfield.h
+    src/widgets/mtextedit.cpp
+    src/widgets/mtextedit_p.cpp
+    src/widgets/mslider.cpp
+    src/widgets/msliderview.cpp
+    src/widgets/mprogressindicator.cpp
+    src/widgets/mprogressindicatorview.cpp
+    src/widgets/mcellgrid.cpp
+    src/widgets/localmonth.cpp
+    src/widgets/mdatepicker.cpp
+    src/widgets/mtimepicker.cpp
+    src/widgets/mchoicelist.cpp
 )

@@ -63,7 +63,8 @@ void TextBlock::prepare(QTextLayout *layout, const QString &text) const
 
 qreal TextBlock::lineHeight() const
 {
-    return qCeil(qMax(m_format.lineHeight, QFontMetricsF(m_format.font).height()));
+    return qCeil(m_format.lineHeight > 0 ? m_format.lineHeight
+                                         : QFontMetricsF(m_format.font).height());
 }
 
 int TextBlock::lineLimit() const
