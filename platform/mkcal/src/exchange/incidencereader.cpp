@@ -212,6 +212,7 @@ Incidence::List IncidenceReader::parse(const Entry *begin, const Entry *end, QSt
         return Incidence::List();
     }
     Incidence::List incidences;
+    incidences.reserve(int(end - begin));
     for (const Entry *entry = begin; entry != end; ++entry) {
         const Incidence::Ptr incidence = read->takeNext(entry->component.name);
         if (!incidence) {
