@@ -122,9 +122,9 @@ KDateTime occurrenceIdentifier(const ExtendedCalendar &calendar, const AgendaEnt
         incidence->allDay() ? entry.occurrenceStart : inZoneOf(entry.occurrenceStart, listed);
     if (shift != 0) {
         const QDateTime wall = onWall(identifier).addSecs(shift);
-        identifier =
-            QDateTime(wall.date(), wall.time(),
-                      ruled.timeSpec() == Qt::LocalTime ? identifier.timeZone() : ruled.timeZone());
+        const KDateTime::Spec zone(ruled.timeSpec() == Qt::LocalTime ? identifier.timeZone()
+                                                                     : ruled.timeZone());
+        identifier = KDateTime(wall.date(), wall.time(), zone).dateTime();
     }
     return incidence->allDay() ? KDateTime(identifier.date(), KDateTime::Spec::ClockTime())
                                : KDateTime(identifier);

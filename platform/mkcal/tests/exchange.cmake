@@ -15,6 +15,7 @@ daskel_add_test(tst_exporticalendar LINK mkcal)
 daskel_add_test(tst_importfaults LINK mkcal)
 daskel_add_test(tst_importfixtures LINK mkcal)
 daskel_add_test(tst_importrepeated LINK mkcal)
+daskel_add_test(tst_repeatedhour LINK mkcal)
 foreach(test tst_importfixtures tst_importrepeated)
     target_compile_definitions(${test} PRIVATE
         ICS_FIXTURES="${CMAKE_CURRENT_SOURCE_DIR}/fixtures/ics")

@@ -32,6 +32,7 @@ const QSet<QByteArray> &altered()
         "start at an offset with seconds",
         "start in a zone that only its calendar knows",
         "first of the hours that the clock change repeats",
+        "second of the hours that the clock change repeats",
         // Rules: UNTIL as UTC or date, parts in the order of the writer.
         "every day until",
         "all-day series",

@@ -3,9 +3,11 @@
 
 #include "seriesrules.h"
 
-#include "clockgaps.h"
+#include "clockchanges.h"
 #include "dateindex.h"
 #include "recurrenceidentity.h"
+
+#include <kcalcompat/firstpass.h>
 
 #include <QSet>
 
@@ -269,7 +271,8 @@ SeriesScale::SeriesScale(const KCalCore::Incidence &series, const ZoneClock &cal
     : clock(calendarClock),
       first(series.recurs() ? series.recurrence()->startDateTime() : anchor(series)),
       zone(zoneOf(first)), isAllDay(series.allDay()),
-      isWallBound(isAllDay || first.timeSpec() == Qt::LocalTime)
+      isWallBound(isAllDay || first.timeSpec() == Qt::LocalTime),
+      countsMoments(series.recurs() && anyRule(*series.recurrence(), isWithinDay))
 {
 }
 
@@ -284,8 +287,13 @@ qint64 SeriesScale::keyOf(const QDateTime &recurrenceId) const
         const QDate day = recurrenceDate(recurrenceId, clock.zone());
         return wallSeconds(QDateTime(day, first.time(), Qt::UTC));
     }
-    const bool isElsewhere = isWallBound && recurrenceId.timeSpec() != Qt::LocalTime;
-    return keyOfStart(isElsewhere ? recurrenceId.toTimeZone(clock.zone()) : recurrenceId);
+    if (isWallBound) {
+        const bool isElsewhere = recurrenceId.timeSpec() != Qt::LocalTime;
+        return keyOfStart(isElsewhere ? recurrenceId.toTimeZone(clock.zone()) : recurrenceId);
+    }
+    // Programs that take the second of two passes for meant name it in UTC.
+    return keyOfStart(countsMoments ? recurrenceId
+                                    : KCalCompat::firstPass(recurrenceId.toTimeZone(zone)));
 }
 
 qint64 SeriesScale::keyAt(Msecs moment) const
@@ -311,14 +319,14 @@ SeriesWalk::SeriesWalk(const KCalCore::Incidence &series, const SeriesScale &sca
 
 bool SeriesWalk::needsWallCopy(Msecs from, Msecs to) const
 {
-    const ClockGaps gaps = ClockGaps::of(m_scale.zone);
-    if (gaps.isEmpty() || anyRule(*m_recurrence, isWithinDay)) {
+    const ClockChanges changes = ClockChanges::of(m_scale.zone);
+    if (changes.isEmpty() || m_scale.countsMoments) {
         return false;
     }
     // A skipped start does not count towards COUNT in KCalendarCore: each later end is wrong.
     const auto counts = [](const RecurrenceRule *rule) { return rule->duration() > 0; };
     const Msecs since = anyRule(*m_recurrence, counts) ? m_scale.first.toMSecsSinceEpoch() : from;
-    return gaps.skip(m_scale.first.time(), since, to) || anyRule(*m_recurrence, namesTimes);
+    return changes.concern(m_scale.first.time(), since, to) || anyRule(*m_recurrence, namesTimes);
 }
 
 void SeriesWalk::goAfter(qint64 key)

@@ -29,6 +29,7 @@ struct SeriesScale {
     QTimeZone zone; ///< that first is in
     bool isAllDay;
     bool isWallBound;
+    bool countsMoments; ///< it repeats within the day: both passes of an hour that comes twice
 
     /// What tells the starts of one series apart and orders them: seconds since 1970, of the wall
     /// clock when the series is bound to it. For a start in the series' own zone.

@@ -4,7 +4,7 @@
 set(MKCAL_CALENDAR_SOURCES
     src/calendar/calendarnotebooks.cpp
     src/calendar/calendarqueries.cpp
-    src/calendar/clockgaps.cpp
+    src/calendar/clockchanges.cpp
     src/calendar/dateindex.cpp
     src/calendar/expansion.cpp
     src/calendar/extendedcalendar.cpp

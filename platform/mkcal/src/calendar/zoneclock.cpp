@@ -3,6 +3,7 @@
 
 #include "zoneclock.h"
 
+#include <kcalcompat/firstpass.h>
 #include <kcalcompat/ksystemtimezones.h>
 
 namespace mKCal
@@ -19,8 +20,11 @@ int offsetBefore(const QDateTime &asUtc, const QTimeZone &zone)
 
 QDateTime atWallClock(const QDate &date, const QTime &time, const QTimeZone &zone)
 {
-    QDateTime shown(date, time, zone);
-    if (shown.isValid() || !date.isValid()) {
+    const QDateTime shown(date, time, zone);
+    if (shown.isValid()) {
+        return KCalCompat::firstPass(shown);
+    }
+    if (!date.isValid()) {
         return shown;
     }
     const QDateTime asUtc(date, time, Qt::UTC);
@@ -102,7 +106,7 @@ Msecs ZoneClock::findDayStart(const QDate &date) const
 {
     const QDateTime midnight(date, QTime(0, 0), m_zone);
     if (midnight.isValid()) {
-        return midnight.toMSecsSinceEpoch();
+        return momentOf(KCalCompat::firstPass(midnight));
     }
     const QDateTime first = date.startOfDay(m_zone);
     return first.isValid() ? first.toMSecsSinceEpoch() : at(date, QTime(0, 0));

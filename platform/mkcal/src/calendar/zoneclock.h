@@ -19,7 +19,7 @@ constexpr qint64 msecsPerDay = 86400000;
 
 /// The moment that a wall clock in @p zone shows that date and time. What the clock skips when it
 /// is put forward is read with the offset from before (RFC 5545, 3.3.5), so that no appointment is
-/// lost: 03:30 becomes 04:30.
+/// lost: 03:30 becomes 04:30. What it shows twice when it is put back is the first.
 QDateTime atWallClock(const QDate &date, const QTime &time, const QTimeZone &zone);
 
 /// The wall clock, written as UTC, that atWallClock() reads as @p dateTime: the skipped one when

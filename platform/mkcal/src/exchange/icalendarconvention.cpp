@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The daskel authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
+#include <kcalcompat/firstpass.h>
 #include <kcalcompat/kdatetime.h>
 #include <mkcal/calendarexporter.h>
 
@@ -39,16 +40,26 @@ bool isZoneUtc(const QDateTime &time)
         && time.timeZone().id() == "UTC";
 }
 
-/// ICalFormat reads a time that ends in Z into a zone called "UTC".
-QDateTime plainUtc(const QDateTime &time)
+/// ICalFormat reads a time that ends in Z into a zone called "UTC", and of a time that the clock
+/// shows twice takes the second.
+QDateTime asMeant(const QDateTime &time)
 {
-    return isZoneUtc(time) ? time.toUTC() : time;
+    if (isZoneUtc(time)) {
+        return time.toUTC();
+    }
+    return time.timeSpec() == Qt::TimeZone ? KCalCompat::firstPass(time) : time;
 }
 
-QList<QDateTime> plainUtc(QList<QDateTime> times)
+bool isAsMeant(const QDateTime &time)
+{
+    const QDateTime meant = asMeant(time);
+    return meant.timeSpec() == time.timeSpec() && meant == time;
+}
+
+QList<QDateTime> asMeant(QList<QDateTime> times)
 {
     std::transform(times.begin(), times.end(), times.begin(),
-                   [](const QDateTime &time) { return plainUtc(time); });
+                   [](const QDateTime &time) { return asMeant(time); });
     return times;
 }
 
@@ -86,7 +97,7 @@ QDateTime untilAsMeant(const RecurrenceRule *rule, const Incidence::Ptr &inciden
     }
     if (!date.isValid() || isInstant) {
         const bool isFloating = incidence->dtStart().timeSpec() == Qt::LocalTime;
-        return isFloating ? rule->endDt().toLocalTime() : plainUtc(rule->endDt());
+        return isFloating ? rule->endDt().toLocalTime() : asMeant(rule->endDt());
     }
     const auto clock = KDateTime(incidence->dtStart()).timeSpec();
     const QDateTime until =
@@ -212,9 +223,9 @@ void readRecurrence(const Incidence::Ptr &incidence)
         // Periods are written in UTC, see toICalendarConvention().
         return ofPeriod && isZoned && time.timeSpec() != Qt::LocalTime
             ? time.toTimeZone(start.timeZone())
-            : plainUtc(time);
+            : asMeant(time);
     });
-    recurrence->setExDateTimes(plainUtc(recurrence->exDateTimes()));
+    recurrence->setExDateTimes(asMeant(recurrence->exDateTimes()));
 }
 
 void readEventEnd(const Event::Ptr &event)
@@ -236,9 +247,9 @@ void readEventEnd(const Event::Ptr &event)
     const QDateTime end = event->dtEnd();
     if (!end.isValid() || end < start || end.date().year() > lastYear) {
         event->setDuration(KCalCore::Duration());
-        event->setDtEnd(plainUtc(start));
-    } else if (event->hasEndDate() && isZoneUtc(end)) {
-        event->setDtEnd(end.toUTC());
+        event->setDtEnd(asMeant(start));
+    } else if (event->hasEndDate() && !isAsMeant(end)) {
+        event->setDtEnd(asMeant(end));
     }
 }
 
@@ -247,8 +258,8 @@ void readTodo(const Todo::Ptr &todo)
 {
     // Todo::dtRecurrence() knows it already.
     todo->removeCustomProperty("LIBKCAL", "DTRECURRENCE");
-    if (isZoneUtc(todo->dtRecurrence())) {
-        todo->setDtRecurrence(todo->dtRecurrence().toUTC());
+    if (!isAsMeant(todo->dtRecurrence())) {
+        todo->setDtRecurrence(asMeant(todo->dtRecurrence()));
     }
     if (todo->hasDuration() && !todo->hasDueDate() && todo->hasStartDate() && !todo->recurs()) {
         const QDateTime due = todo->duration().end(todo->dtStart());
@@ -258,7 +269,7 @@ void readTodo(const Todo::Ptr &todo)
     }
     if (todo->hasDueDate()) {
         const QDateTime due = todo->dtDue(true);
-        todo->setDtDue(todo->allDay() ? dayStart(due.date()) : plainUtc(due), true);
+        todo->setDtDue(todo->allDay() ? dayStart(due.date()) : asMeant(due), true);
     }
     if (todo->isCompleted()) {
         const QDateTime completed = todo->completed();
@@ -277,7 +288,7 @@ void readAlarms(const Incidence::Ptr &incidence)
         // Alarm::enabled() knows it already.
         alarm->removeCustomProperty("KCALCORE", "ENABLED");
         if (alarm->hasTime() && isZoneUtc(alarm->time())) {
-            alarm->setTime(plainUtc(alarm->time()));
+            alarm->setTime(asMeant(alarm->time()));
         }
     }
 }
@@ -293,6 +304,28 @@ void readConferences(const Incidence::Ptr &incidence)
     }
     incidence->setConferences(conferences);
 }
+/// The second pass of an hour that comes twice has no other form than UTC. What recurs from it
+/// keeps its zone, by which alone it recurs as it should.
+void writeSecondPasses(const Incidence::Ptr &incidence)
+{
+    const auto isSecondPass = [](const QDateTime &time) {
+        return time.timeSpec() == Qt::TimeZone && KCalCompat::firstPass(time) != time;
+    };
+    const auto todo = incidence.dynamicCast<Todo>();
+    const auto event = incidence.dynamicCast<Event>();
+    if (isSecondPass(incidence->dtStart())) {
+        incidence->setDtStart(incidence->dtStart().toUTC());
+    }
+    if (event && event->hasEndDate() && isSecondPass(event->dtEnd())) {
+        event->setDtEnd(event->dtEnd().toUTC());
+    }
+    if (todo && isSecondPass(todo->dtDue(true))) {
+        todo->setDtDue(todo->dtDue(true).toUTC(), true);
+    }
+    if (isSecondPass(incidence->recurrenceId())) {
+        incidence->setRecurrenceId(incidence->recurrenceId().toUTC());
+    }
+}
 } // namespace
 
 Incidence::Ptr toICalendarConvention(const Incidence::Ptr &incidence)
@@ -304,6 +337,7 @@ Incidence::Ptr toICalendarConvention(const Incidence::Ptr &incidence)
         event->setDtEnd(dayStart(std::max(lastDay, event->dtStart().date())));
     }
     if (!clone->recurs()) {
+        writeSecondPasses(clone);
         return clone;
     }
     if (clone->allDay()) {
@@ -329,11 +363,11 @@ void fromICalendarConvention(const Incidence::Ptr &incidence)
     const QDateTime start = incidence->dtStart();
     if (start.isValid() && incidence->allDay()) {
         incidence->setDtStart(dayStart(start.date()));
-    } else if (isZoneUtc(start)) {
-        incidence->setDtStart(start.toUTC());
+    } else if (!isAsMeant(start)) {
+        incidence->setDtStart(asMeant(start));
     }
     if (incidence->hasRecurrenceId()) {
-        incidence->setRecurrenceId(plainUtc(incidence->recurrenceId()));
+        incidence->setRecurrenceId(asMeant(incidence->recurrenceId()));
     }
     if (incidence->recurs()) {
         readRecurrence(incidence);
