@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
 #include "clirunner.h"
+#include "testtable.h"
 
 #include <QDir>
 #include <QJsonArray>
@@ -55,10 +56,9 @@ private Q_SLOTS:
 
 void TestCli::wrongUsage_data()
 {
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<QString>("message");
+    addColumns<QStringList, QString>("arguments", "message");
     const auto row = [](const QStringList &arguments, const char *message) {
-        QTest::newRow(message) << arguments << QString::fromUtf8(message);
+        addRow(message, arguments, QString::fromUtf8(message));
     };
     row({}, "no command given; see 'daskel --help'");
     row({"frob"}, "there is no command 'frob'; see 'daskel --help'");
@@ -96,10 +96,9 @@ void TestCli::wrongUsage()
 
 void TestCli::help_data()
 {
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<QString>("firstLine");
+    addColumns<QStringList, QString>("arguments", "firstLine");
     const auto row = [](const QStringList &arguments, const char *firstLine) {
-        QTest::newRow(firstLine) << arguments << QString::fromUtf8(firstLine);
+        addRow(firstLine, arguments, QString::fromUtf8(firstLine));
     };
     row({"--help"}, "Usage: daskel [options] COMMAND ...");
     row({"--version"}, "daskel 0.1.0");
@@ -202,13 +201,12 @@ void TestCli::importAlters()
 
 void TestCli::importRefuses_data()
 {
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<QString>("message");
-    QTest::newRow("missing file") << QStringList{"missing.ics"}
-                                  << "nothing was imported: no file could be read";
-    QTest::newRow("folder") << QStringList{"."} << "nothing was imported: no file could be read";
-    QTest::newRow("unknown notebook")
-        << QStringList{"--notebook", "nix", "good.ics"} << "there is no notebook 'nix'";
+    addColumns<QStringList, QString>("arguments", "message");
+    addRow("missing file", QStringList{"missing.ics"},
+           "nothing was imported: no file could be read");
+    addRow("folder", QStringList{"."}, "nothing was imported: no file could be read");
+    addRow("unknown notebook", QStringList{"--notebook", "nix", "good.ics"},
+           "there is no notebook 'nix'");
 }
 
 void TestCli::importRefuses()
@@ -254,7 +252,7 @@ void TestCli::roundTrip_data()
     QTest::addColumn<QString>("calendar");
     const QStringList names = QDir(CliRunner::fixture(QString())).entryList({"*.ics"});
     for (const QString &name : names) {
-        QTest::newRow(qPrintable(name)) << CliRunner::fixture(name);
+        addRow(qPrintable(name), CliRunner::fixture(name));
     }
 }
 
@@ -295,14 +293,10 @@ void TestCli::exportToFile()
 
 void TestCli::exportRefuses_data()
 {
-    QTest::addColumn<QString>("file");
-    QTest::addColumn<QString>("reason");
-    QTest::newRow("folder") << "data"
-                            << "it is a folder";
-    QTest::newRow("no such folder") << "none/out.ics"
-                                    << "No such file or directory";
-    QTest::newRow("full device") << "/dev/full"
-                                 << "No space left on device";
+    addColumns<QString, QString>("file", "reason");
+    addRow("folder", "data", "it is a folder");
+    addRow("no such folder", "none/out.ics", "No such file or directory");
+    addRow("full device", "/dev/full", "No space left on device");
 }
 
 void TestCli::exportRefuses()
@@ -319,10 +313,10 @@ void TestCli::exportRefuses()
 void TestCli::fullDevice_data()
 {
     QTest::addColumn<QStringList>("arguments");
-    QTest::newRow("agenda") << QStringList{"agenda"};
-    QTest::newRow("json") << QStringList{"notebooks", "--json"};
-    QTest::newRow("export") << QStringList{"export"};
-    QTest::newRow("help") << QStringList{"export", "--help"};
+    addRow("agenda", QStringList{"agenda"});
+    addRow("json", QStringList{"notebooks", "--json"});
+    addRow("export", QStringList{"export"});
+    addRow("help", QStringList{"export", "--help"});
 }
 
 void TestCli::fullDevice()

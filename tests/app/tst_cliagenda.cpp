@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
 #include "clirunner.h"
+#include "testtable.h"
 
 #include <QDir>
 #include <QJsonArray>
@@ -62,7 +63,7 @@ void TestCliAgenda::json_data()
     QTest::addColumn<QString>("fixture");
     const QDir fixtures(CliRunner::fixture(QString()));
     for (const QString &name : fixtures.entryList({"*.json"})) {
-        QTest::newRow(qPrintable(name)) << fixtures.filePath(name);
+        addRow(qPrintable(name), fixtures.filePath(name));
     }
 }
 
@@ -113,7 +114,7 @@ void TestCliAgenda::systemZones_data()
          {"Europe/Helsinki", ":/usr/share/zoneinfo/Asia/Tokyo", "UTC", "UTC-5", "UTC+3",
           "<+0545>-5:45", "EET-2EEST", "EST5EDT,M3.2.0,M11.1.0", "EET-2EEST,M3.5.0/3,M10.5.0/4",
           "Mars/Olympus"}) {
-        QTest::newRow(setting) << QString::fromUtf8(setting);
+        addRow(setting, QString::fromUtf8(setting));
     }
 }
 
@@ -150,16 +151,11 @@ void TestCliAgenda::systemZones()
 
 void TestCliAgenda::offsetZones_data()
 {
-    QTest::addColumn<QString>("zone");
-    QTest::addColumn<QString>("start");
-    QTest::newRow("east") << "UTC+05:45"
-                          << "2026-05-01T13:45:00+05:45";
-    QTest::newRow("west") << "UTC-03:30"
-                          << "2026-05-01T04:30:00-03:30";
-    QTest::newRow("none") << "UTC"
-                          << "2026-05-01T08:00:00Z";
-    QTest::newRow("rule") << "EST5EDT"
-                          << "2026-05-01T04:00:00-04:00";
+    addColumns<QString, QString>("zone", "start");
+    addRow("east", "UTC+05:45", "2026-05-01T13:45:00+05:45");
+    addRow("west", "UTC-03:30", "2026-05-01T04:30:00-03:30");
+    addRow("none", "UTC", "2026-05-01T08:00:00Z");
+    addRow("rule", "EST5EDT", "2026-05-01T04:00:00-04:00");
 }
 
 void TestCliAgenda::offsetZones()
@@ -176,13 +172,11 @@ void TestCliAgenda::offsetZones()
 
 void TestCliAgenda::text_data()
 {
-    QTest::addColumn<QString>("calendar");
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<QString>("expected");
+    addColumns<QString, QStringList, QString>("calendar", "arguments", "expected");
 
-    QTest::newRow("overnight, trip and a meeting elsewhere")
-        << "clock-change-spring.ics" << QStringList{"--from", "2026-03-25", "--to", "2026-03-29"}
-        << "2026-03-25 Wednesday\n"
+    addRow("overnight, trip and a meeting elsewhere", "clock-change-spring.ics",
+           QStringList{"--from", "2026-03-25", "--to", "2026-03-29"},
+           "2026-03-25 Wednesday\n"
            "  15:00–16:00  Call with New York [09:00 America/New_York]  · Personal\n"
            "\n"
            "2026-03-27 Friday\n"
@@ -198,27 +192,26 @@ void TestCliAgenda::text_data()
            "  all day      Trip (day 3 of 4)  · Personal\n"
            "  until 05:00  Night watch (day 2 of 2)  · Personal\n"
            "  04:30–05:00  Baking  · Personal\n"
-           "  09:30–10:30  Swim, Yrjönkatu  · Personal\n";
-    QTest::newRow("midnight ends the day")
-        << "midnight.ics" << QStringList{"--from", "2026-09-02", "--days", "1"}
-        << "2026-09-02 Wednesday\n"
+           "  09:30–10:30  Swim, Yrjönkatu  · Personal\n");
+    addRow("midnight ends the day", "midnight.ics",
+           QStringList{"--from", "2026-09-02", "--days", "1"},
+           "2026-09-02 Wednesday\n"
            "  until 01:00  Over midnight (day 2 of 2)  · Personal\n"
            "  until 01:00  Night shift (day 2 of 2)  · Personal\n"
            "  00:00        At midnight  · Personal\n"
            "  12:00        At noon  · Personal\n"
            "  22:00–00:00  Evening  · Personal\n"
-           "  from 23:00   Night shift (day 1 of 2)  · Personal\n";
-    QTest::newRow("to-dos") << "todos.ics"
-                            << QStringList{"--from", "2026-07-01", "--to", "2026-07-03"}
-                            << "2026-07-01 Wednesday\n"
-                               "  due          [x] Order chairs  · Personal\n"
-                               "\n"
-                               "2026-07-02 Thursday\n"
-                               "  due 12:00    [ ] Call the dentist  · Personal\n"
-                               "\n"
-                               "2026-07-03 Friday\n"
-                               "  due          [ ] Send the form  · Personal\n"
-                               "  due 16:00    [ ] Write down the hours  · Personal\n";
+           "  from 23:00   Night shift (day 1 of 2)  · Personal\n");
+    addRow("to-dos", "todos.ics", QStringList{"--from", "2026-07-01", "--to", "2026-07-03"},
+           "2026-07-01 Wednesday\n"
+           "  due          [x] Order chairs  · Personal\n"
+           "\n"
+           "2026-07-02 Thursday\n"
+           "  due 12:00    [ ] Call the dentist  · Personal\n"
+           "\n"
+           "2026-07-03 Friday\n"
+           "  due          [ ] Send the form  · Personal\n"
+           "  due 16:00    [ ] Write down the hours  · Personal\n");
 }
 
 void TestCliAgenda::text()
@@ -248,11 +241,10 @@ void TestCliAgenda::nothing()
 
 void TestCliAgenda::hourly_data()
 {
-    QTest::addColumn<QString>("day");
-    QTest::addColumn<int>("count");
-    QTest::newRow("an ordinary day") << "2026-05-01" << 24;
-    QTest::newRow("the clocks go forward") << "2026-03-29" << 23;
-    QTest::newRow("the clocks go back") << "2026-10-25" << 25;
+    addColumns<QString, int>("day", "count");
+    addRow("an ordinary day", "2026-05-01", 24);
+    addRow("the clocks go forward", "2026-03-29", 23);
+    addRow("the clocks go back", "2026-10-25", 25);
 }
 
 void TestCliAgenda::hourly()
@@ -335,11 +327,10 @@ void TestCliAgenda::controlCharacters()
 
 void TestCliAgenda::refusal_data()
 {
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<QString>("message");
+    addColumns<QStringList, QString>("arguments", "message");
 
     const auto row = [](const char *name, const QStringList &arguments, const char *message) {
-        QTest::newRow(name) << arguments << QString::fromUtf8(message);
+        addRow(name, arguments, QString::fromUtf8(message));
     };
     row("no such day", {"--from", "2026-02-30"},
         "--from: '2026-02-30' is not a date such as 2026-05-01");

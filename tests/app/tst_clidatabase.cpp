@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
 #include "clirunner.h"
+#include "testtable.h"
 
 #include <QDir>
 #include <QtTest>
@@ -88,14 +89,10 @@ void TestCliDatabase::checkWithoutDatabase()
 
 void TestCliDatabase::unusable_data()
 {
-    QTest::addColumn<QString>("place");
-    QTest::addColumn<QString>("message");
-    QTest::newRow("not a database") << "calendar.db"
-                                    << "%1/calendar.db: file is not a database";
-    QTest::newRow("a folder in its place") << "calendar.db/"
-                                           << "'%1/calendar.db' is a folder";
-    QTest::newRow("a file in the folder's place") << ""
-                                                  << "cannot make the folder '%1'";
+    addColumns<QString, QString>("place", "message");
+    addRow("not a database", "calendar.db", "%1/calendar.db: file is not a database");
+    addRow("a folder in its place", "calendar.db/", "'%1/calendar.db' is a folder");
+    addRow("a file in the folder's place", "", "cannot make the folder '%1'");
 }
 
 void TestCliDatabase::unusable()

@@ -47,6 +47,8 @@ public:
         storage->calls.clear();
     }
 
+    QString takeCalls() { return storage->takeCalls(); }
+
     TestEnvironment environment;
     /// Called with each storage before it is opened.
     std::function<void(PlainStorage &)> prepare = [](PlainStorage &) {};

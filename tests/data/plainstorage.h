@@ -33,7 +33,8 @@ public:
     std::function<void()> provide = [] {}; ///< called by every load
     QStringList calls;
 
-    QStringList takeCalls() { return std::exchange(calls, {}); }
+    /// Such as "open, loadJournals": all since the last time.
+    QString takeCalls() { return std::exchange(calls, {}).join(QStringLiteral(", ")); }
     void tellModified() { notifyModified(QStringLiteral("test")); }
 
     bool open() override

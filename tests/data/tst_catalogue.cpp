@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
 #include "catalogue_p.h"
+#include "testtable.h"
 
 #include <daskel/catalogue.h>
 
@@ -42,13 +43,12 @@ QString namesBy(const QString &program, const Environment &environment)
 {
     QProcess child;
     QProcessEnvironment all = QProcessEnvironment::systemEnvironment();
-    for (const QString &variable : {QStringLiteral("LANGUAGE"), QStringLiteral("LC_ALL"),
-                                    QStringLiteral("LC_MESSAGES"), QStringLiteral("LANG")})
+    for (const char *variable : {"LANGUAGE", "LC_ALL", "LC_MESSAGES", "LANG"})
         all.remove(variable);
     for (auto it = environment.cbegin(); it != environment.cend(); ++it)
         all.insert(it.key(), it.value());
     child.setProcessEnvironment(all);
-    child.start(program, {QStringLiteral("--names")});
+    child.start(program, {"--names"});
     if (!child.waitForFinished() || child.exitCode() != 0)
         return QString::fromUtf8(child.readAllStandardError());
     return QString::fromUtf8(child.readAllStandardOutput());
@@ -73,10 +73,9 @@ int printNames(int argc, char *argv[])
 /// Copies the catalogues of the build tree to @p folder.
 void copyCatalogues(const QString &folder)
 {
-    const QDir built(QCoreApplication::applicationDirPath()
-                     + QStringLiteral("/../../share/daskel/translations"));
+    const QDir built(QCoreApplication::applicationDirPath() + "/../../share/daskel/translations");
     QDir().mkpath(folder);
-    const QStringList catalogues = built.entryList({QStringLiteral("*.qm")}, QDir::Files);
+    const QStringList catalogues = built.entryList({"*.qm"}, QDir::Files);
     for (const QString &catalogue : catalogues)
         QFile::copy(built.filePath(catalogue), QDir(folder).filePath(catalogue));
 }
@@ -84,29 +83,23 @@ void copyCatalogues(const QString &folder)
 
 void TestCatalogue::namesNotebooksInThePersonsLanguage_data()
 {
-    QTest::addColumn<Environment>("environment");
-    QTest::addColumn<QString>("names");
+    addColumns<Environment, QString>("environment", "names");
 
-    const QString language = QStringLiteral("LANGUAGE");
-    const QString lang = QStringLiteral("LANG");
-    const QString english = QStringLiteral("Personal, Notes");
-    const QString german = QStringLiteral("Persönlich, Notizen");
-    const QString finnish = QStringLiteral("Oma, Muistiinpanot");
-    QTest::newRow("English") << Environment{{lang, QStringLiteral("en_GB.UTF-8")}} << english;
-    QTest::newRow("German") << Environment{{lang, QStringLiteral("de_DE.UTF-8")}} << german;
-    QTest::newRow("German of Austria")
-        << Environment{{lang, QStringLiteral("de_AT.UTF-8")}} << german;
-    QTest::newRow("Finnish") << Environment{{lang, QStringLiteral("fi_FI.UTF-8")}} << finnish;
-    QTest::newRow("a language without a catalogue")
-        << Environment{{lang, QStringLiteral("sv_SE.UTF-8")}} << english;
-    QTest::newRow("no language") << Environment{{lang, QStringLiteral("C")}} << english;
-    QTest::newRow("the second language has one")
-        << Environment{{language, QStringLiteral("sv:fi:de")},
-                       {lang, QStringLiteral("sv_SE.UTF-8")}}
-        << finnish;
-    QTest::newRow("English before German")
-        << Environment{{language, QStringLiteral("en:de")}, {lang, QStringLiteral("de_DE.UTF-8")}}
-        << english;
+    const QString language = "LANGUAGE";
+    const QString lang = "LANG";
+    const QString english = "Personal, Notes";
+    const QString german = "Persönlich, Notizen";
+    const QString finnish = "Oma, Muistiinpanot";
+    addRow("English", Environment{{lang, "en_GB.UTF-8"}}, english);
+    addRow("German", Environment{{lang, "de_DE.UTF-8"}}, german);
+    addRow("German of Austria", Environment{{lang, "de_AT.UTF-8"}}, german);
+    addRow("Finnish", Environment{{lang, "fi_FI.UTF-8"}}, finnish);
+    addRow("a language without a catalogue", Environment{{lang, "sv_SE.UTF-8"}}, english);
+    addRow("no language", Environment{{lang, "C"}}, english);
+    addRow("the second language has one",
+           Environment{{language, "sv:fi:de"}, {lang, "sv_SE.UTF-8"}}, finnish);
+    addRow("English before German", Environment{{language, "en:de"}, {lang, "de_DE.UTF-8"}},
+           english);
 }
 
 void TestCatalogue::namesNotebooksInThePersonsLanguage()
@@ -118,21 +111,13 @@ void TestCatalogue::namesNotebooksInThePersonsLanguage()
 
 void TestCatalogue::isFoundWhereItIsInstalled_data()
 {
-    QTest::addColumn<QString>("program");
-    QTest::addColumn<QString>("catalogues");
-    QTest::addColumn<QString>("names");
+    addColumns<QString, QString, QString>("program", "catalogues", "names");
 
-    const QString german = QStringLiteral("Persönlich, Notizen");
-    QTest::newRow("below the program's prefix")
-        << QStringLiteral("prefix/bin") << QStringLiteral("prefix/share/daskel/translations")
-        << german;
-    QTest::newRow("among the system's data")
-        << QStringLiteral("elsewhere/bin") << QStringLiteral("system/daskel/translations")
-        << german;
-    QTest::newRow("among the person's data")
-        << QStringLiteral("elsewhere/bin") << QStringLiteral("home/daskel/translations") << german;
-    QTest::newRow("nowhere") << QStringLiteral("elsewhere/bin") << QStringLiteral("lost")
-                             << QStringLiteral("Personal, Notes");
+    const QString german = "Persönlich, Notizen";
+    addRow("below the program's prefix", "prefix/bin", "prefix/share/daskel/translations", german);
+    addRow("among the system's data", "elsewhere/bin", "system/daskel/translations", german);
+    addRow("among the person's data", "elsewhere/bin", "home/daskel/translations", german);
+    addRow("nowhere", "elsewhere/bin", "lost", "Personal, Notes");
 }
 
 void TestCatalogue::isFoundWhereItIsInstalled()
@@ -144,31 +129,31 @@ void TestCatalogue::isFoundWhereItIsInstalled()
     const QTemporaryDir root;
     copyCatalogues(root.filePath(catalogues));
     QVERIFY(QDir().mkpath(root.filePath(program)));
-    const QString copy = root.filePath(program + QStringLiteral("/tst_catalogue"));
+    const QString copy = root.filePath(program + "/tst_catalogue");
     QVERIFY(QFile::copy(QCoreApplication::applicationFilePath(), copy));
     const Environment environment{
-        {QStringLiteral("LANG"), QStringLiteral("de_DE.UTF-8")},
-        {QStringLiteral("XDG_DATA_HOME"), root.filePath(QStringLiteral("home"))},
-        {QStringLiteral("XDG_DATA_DIRS"), root.filePath(QStringLiteral("system"))},
+        {"LANG", "de_DE.UTF-8"},
+        {"XDG_DATA_HOME", root.filePath("home")},
+        {"XDG_DATA_DIRS", root.filePath("system")},
     };
     QCOMPARE(namesBy(copy, environment), names);
 }
 
 void TestCatalogue::looksNearbyFirst()
 {
-    const QStringList code{QStringLiteral("/usr/lib/x86_64-linux-gnu"), QStringLiteral("/a/bin")};
-    const QStringList data{QStringLiteral("/home/me/.local/share"), QStringLiteral("/usr/share")};
+    const QStringList code{"/usr/lib/x86_64-linux-gnu", "/a/bin"};
+    const QStringList data{"/home/me/.local/share", "/usr/share"};
     QStringList folders = Daskel::catalogueFolders(code, data);
-    QCOMPARE(folders.takeLast(), QStringLiteral(":/daskel/translations"));
+    QCOMPARE(folders.takeLast(), ":/daskel/translations");
     QCOMPARE(folders,
              QStringList({
-                 QStringLiteral("/usr/lib/x86_64-linux-gnu/share/daskel/translations"),
-                 QStringLiteral("/usr/lib/share/daskel/translations"),
-                 QStringLiteral("/usr/share/daskel/translations"),
-                 QStringLiteral("/share/daskel/translations"),
-                 QStringLiteral("/a/bin/share/daskel/translations"),
-                 QStringLiteral("/a/share/daskel/translations"),
-                 QStringLiteral("/home/me/.local/share/daskel/translations"),
+                 "/usr/lib/x86_64-linux-gnu/share/daskel/translations",
+                 "/usr/lib/share/daskel/translations",
+                 "/usr/share/daskel/translations",
+                 "/share/daskel/translations",
+                 "/a/bin/share/daskel/translations",
+                 "/a/share/daskel/translations",
+                 "/home/me/.local/share/daskel/translations",
              }));
 }
 
@@ -176,16 +161,16 @@ void TestCatalogue::passesOverADamagedCatalogue()
 {
     const QTemporaryDir near;
     const QTemporaryDir far;
-    QFile damaged(near.filePath(QStringLiteral("libdaskel_fi.qm")));
+    QFile damaged(near.filePath("libdaskel_fi.qm"));
     QVERIFY(damaged.open(QIODevice::WriteOnly));
     damaged.write("no catalogue");
     damaged.close();
     copyCatalogues(far.path());
 
-    const auto catalogue = Daskel::loadCatalogue({QStringLiteral("fi")}, {near.path(), far.path()});
+    const auto catalogue = Daskel::loadCatalogue({"fi"}, {near.path(), far.path()});
     QVERIFY(catalogue != nullptr);
-    QCOMPARE(catalogue->translate(nullptr, ids[0]), QStringLiteral("Oma"));
-    QVERIFY(Daskel::loadCatalogue({QStringLiteral("fi")}, {near.path()}) == nullptr);
+    QCOMPARE(catalogue->translate(nullptr, ids[0]), "Oma");
+    QVERIFY(Daskel::loadCatalogue({"fi"}, {near.path()}) == nullptr);
 }
 
 void TestCatalogue::isInstalledOnce()

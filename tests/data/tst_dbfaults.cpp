@@ -4,6 +4,7 @@
 #include "databasefixture.h"
 #include "failingdevice.h"
 #include "incidences.h"
+#include "testtable.h"
 #include "warningcapture.h"
 
 #include <daskel/db_instance.h>
@@ -115,7 +116,7 @@ Fault failingSync()
 
 Fault movedFile()
 {
-    const QString away = DatabaseFixture::fileName() + QLatin1String(".away");
+    const QString away = DatabaseFixture::fileName() + ".away";
     QFile::rename(DatabaseFixture::fileName(), away);
     return undoneBy([away] { QFile::rename(away, DatabaseFixture::fileName()); });
 }
@@ -155,10 +156,9 @@ Q_DECLARE_METATYPE(Provoke)
 
 void DbFaultsTest::opening_data()
 {
-    QTest::addColumn<Provoke>("provoke");
-    QTest::addColumn<int>("code");
+    addColumns<Provoke, int>("provoke", "code");
     const auto row = [](const char *name, int code, const Provoke &provoke) {
-        QTest::newRow(name) << provoke << code;
+        addRow(name, provoke, code);
     };
     row("a folder in its place", SQLITE_CANTOPEN, [] {
         QFile::remove(DatabaseFixture::fileName());
@@ -166,12 +166,12 @@ void DbFaultsTest::opening_data()
         return undoneBy([] { QDir().rmdir(DatabaseFixture::fileName()); });
     });
     row("no way to its folder", SQLITE_CANTOPEN, [] {
-        QDir().rename(folder(), folder() + QLatin1String(".away"));
+        QDir().rename(folder(), folder() + ".away");
         QFile inTheWay(folder());
         inTheWay.open(QIODevice::WriteOnly);
         return undoneBy([] {
             QFile::remove(folder());
-            QDir().rename(folder() + QLatin1String(".away"), folder());
+            QDir().rename(folder() + ".away", folder());
         });
     });
     row("no permission", SQLITE_CANTOPEN, [] { return asNobody(0700, 0000); });
@@ -199,8 +199,7 @@ void DbFaultsTest::opening()
     DatabaseFixture database;
     database.open();
     DbInstance::instance()->enableDb();
-    QVERIFY(
-        DbInstance::instance()->calendar()->addTodo(makeTodo(QStringLiteral("todo"), QDateTime())));
+    QVERIFY(DbInstance::instance()->calendar()->addTodo(makeTodo("todo", QDateTime())));
     QVERIFY(DbInstance::instance()->save());
     DbInstance::destroy();
 
@@ -224,13 +223,9 @@ void DbFaultsTest::opening()
 
 void DbFaultsTest::saving_data()
 {
-    QTest::addColumn<Provoke>("provoke");
-    QTest::addColumn<int>("code");
-    QTest::addColumn<int>("signalled");
+    addColumns<Provoke, int, int>("provoke", "code", "signalled");
     const auto row = [](const char *name, int code, DbInstance::DbSaveError signalled,
-                        const Provoke &provoke) {
-        QTest::newRow(name) << provoke << code << int(signalled);
-    };
+                        const Provoke &provoke) { addRow(name, provoke, code, int(signalled)); };
     const auto failed = DbInstance::DbSaveFailed;
     const auto failed10 = DbInstance::DbSaveStorageError10;
     row("full disk", SQLITE_FULL, failed, [] { return std::make_shared<FailingDevice>(ENOSPC); });
@@ -250,9 +245,9 @@ void DbFaultsTest::saving()
     database.open();
     DbInstance *const db = DbInstance::instance();
     db->enableDb();
-    QVERIFY(db->calendar()->addTodo(makeTodo(QStringLiteral("stored"), QDateTime())));
+    QVERIFY(db->calendar()->addTodo(makeTodo("stored", QDateTime())));
     QVERIFY(db->save());
-    QVERIFY(db->calendar()->addTodo(makeTodo(QStringLiteral("unsaved"), QDateTime())));
+    QVERIFY(db->calendar()->addTodo(makeTodo("unsaved", QDateTime())));
     QSignalSpy saved(db, &DbInstance::dbSaved);
     const WarningCapture warnings;
     Fault fault = provoke();
@@ -269,17 +264,16 @@ void DbFaultsTest::saving()
     QVERIFY2(db->save(), qPrintable(storage->errorMessage()));
     const OtherProcess other;
     QVERIFY(other.storage->load());
-    QVERIFY(other.calendar->incidence(QStringLiteral("stored")));
-    QVERIFY(other.calendar->incidence(QStringLiteral("unsaved")));
+    QVERIFY(other.calendar->incidence("stored"));
+    QVERIFY(other.calendar->incidence("unsaved"));
 }
 
 void DbFaultsTest::reading_data()
 {
-    QTest::addColumn<int>("error");
-    QTest::addColumn<int>("code");
+    addColumns<int, int>("error", "code");
     // SQLite takes a sector that cannot be read for a damaged file.
-    QTest::newRow("unreadable sector") << EIO << SQLITE_CORRUPT;
-    QTest::newRow("device gone") << ENODEV << SQLITE_IOERR;
+    addRow("unreadable sector", EIO, SQLITE_CORRUPT);
+    addRow("device gone", ENODEV, SQLITE_IOERR);
 }
 
 void DbFaultsTest::reading()
@@ -290,7 +284,7 @@ void DbFaultsTest::reading()
     database.open();
     DbInstance *const db = DbInstance::instance();
     db->enableDb();
-    QVERIFY(db->calendar()->addTodo(makeTodo(QStringLiteral("stored"), QDateTime())));
+    QVERIFY(db->calendar()->addTodo(makeTodo("stored", QDateTime())));
     QVERIFY(db->save());
     DbInstance::destroy();
     database.open();
@@ -304,7 +298,7 @@ void DbFaultsTest::reading()
     }
     // The failed load is not taken for one that found nothing.
     QVERIFY(storage->load());
-    QVERIFY(DbInstance::instance()->calendar()->incidence(QStringLiteral("stored")));
+    QVERIFY(DbInstance::instance()->calendar()->incidence("stored"));
 }
 
 QTEST_GUILESS_MAIN(DbFaultsTest)

@@ -1,22 +1,42 @@
 // SPDX-FileCopyrightText: 2026 The daskel authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
+#include "dbsignals.h"
 #include "incidences.h"
 #include "plaindatabase.h"
+#include "testtable.h"
 #include "warningcapture.h"
 
-#include <QSignalSpy>
 #include <QtTest>
 
 namespace
 {
-const QString personalUid = QStringLiteral("11111111-2222-3333-4444-555555555555");
-const QString notesUid = QStringLiteral("66666666-7777-8888-9999-000000000000");
+const QString personalUid = "11111111-2222-3333-4444-555555555555";
+const QString notesUid = "66666666-7777-8888-9999-000000000000";
 
-const QStringList calendarPreload{QStringLiteral("loadRecurring"), QStringLiteral("loadTodos"),
-                                  QStringLiteral("load 2011-02-23 2011-04-21")};
-const QStringList journalPreload{QStringLiteral("loadJournals")};
+const QString calendarPreload = "loadRecurring, loadTodos, load 2011-02-23 2011-04-21";
+const QString journalPreload = "loadJournals";
 constexpr auto unknownUser = static_cast<DbInstance::DbUser>(7);
+
+const QDate shownDay(2011, 3, 12);
+
+DbInstance &db()
+{
+    return *DbInstance::instance();
+}
+
+void addToShownDay()
+{
+    db().calendar()->addEvent(
+        makeEvent("new", localTime("2011-03-12T10:00"), localTime("2011-03-12T11:00")));
+}
+
+int shown()
+{
+    return ExpandedIncidencesCache::instance()
+        ->getExpandedEventsAndTodos(shownDay, shownDay)
+        .size();
+}
 } // namespace
 
 /// Life of the database object: opening, enabling, and what it does when something changes.
@@ -25,8 +45,8 @@ class DbInstanceTest : public QObject
     Q_OBJECT
 private Q_SLOTS:
     void fixedNotebooks();
-    void provisionedNotebooksAreKept();
-    void anExistingDefaultIsKept();
+    void notebooksThatAreThere_data();
+    void notebooksThatAreThere();
     void nothingWithoutADatabase();
     void enabling_data();
     void enabling();
@@ -42,24 +62,19 @@ private Q_SLOTS:
 void DbInstanceTest::fixedNotebooks()
 {
     PlainDatabase database;
-    QSignalSpy updated(DbInstance::instance(), &DbInstance::dataUpdated);
-    QSignalSpy opened(DbInstance::instance(), &DbInstance::dbOpenedOk);
+    DbSignals told;
     database.open();
-    QCOMPARE(updated.count(), 1);
-    QCOMPARE(opened.count(), 0);
-    QVERIFY(DbInstance::instance()->didDatabaseOpenSucceed());
-    QVERIFY(!DbInstance::instance()->isEnabled());
-    QCOMPARE(DbInstance::instance()->databaseFileName(), QString()); // not in a file
-    QCOMPARE(
-        database.storage->calls,
-        QStringList({QStringLiteral("open"), QStringLiteral("addNotebook %1 0").arg(personalUid),
-                     QStringLiteral("setDefaultNotebook %1").arg(personalUid),
-                     QStringLiteral("addNotebook %1 0").arg(notesUid)}));
+    QCOMPARE(told.take(), "updated");
+    QVERIFY(db().didDatabaseOpenSucceed());
+    QVERIFY(!db().isEnabled());
+    QCOMPARE(db().databaseFileName(), QString()); // not in a file
+    QCOMPARE(database.takeCalls(),
+             QString("open, addNotebook %1 0, setDefaultNotebook %1, addNotebook %2 0")
+                 .arg(personalUid, notesUid));
 
-    mKCal::Notebook personal(personalUid, QStringLiteral("Personal"), QString(),
-                             QStringLiteral("#63B33B"), false, true, false, false, true);
-    mKCal::Notebook notes(notesUid, QStringLiteral("Notes"), QString(), QStringLiteral("#63B33B"),
-                          false, true, false, false, true);
+    mKCal::Notebook personal(personalUid, "Personal", {}, "#63B33B", false, true, false, false,
+                             true);
+    mKCal::Notebook notes(notesUid, "Notes", {}, "#63B33B", false, true, false, false, true);
     notes.setEventsAllowed(false);
     notes.setTodosAllowed(false);
     notes.setIsHidden(true);
@@ -72,143 +87,130 @@ void DbInstanceTest::fixedNotebooks()
     }
 }
 
-void DbInstanceTest::provisionedNotebooksAreKept()
+void DbInstanceTest::notebooksThatAreThere_data()
 {
-    PlainDatabase database;
-    database.prepare = [](PlainStorage &storage) {
-        for (const char *uid : {"DEFAULT_NB_UID", "NOTES_NB_UID"}) {
-            const auto notebook = mKCal::Notebook::Ptr::create();
-            notebook->setUid(QLatin1String(uid));
-            storage.addNotebook(notebook, false);
-        }
-        storage.calls.clear();
-    };
-    database.open();
-    QCOMPARE(database.storage->calls, QStringList{QStringLiteral("open")});
+    addColumns<QStringList, bool, QString>("uids", "hasDefault", "calls");
+    addRow("provisioned", QStringList{"DEFAULT_NB_UID", "NOTES_NB_UID"}, false, "open");
+    addRow("a default one", QStringList(), true,
+           QString("open, addNotebook %1 0, addNotebook %2 0").arg(personalUid, notesUid));
 }
 
-void DbInstanceTest::anExistingDefaultIsKept()
+void DbInstanceTest::notebooksThatAreThere()
 {
+    QFETCH(QStringList, uids);
+    QFETCH(bool, hasDefault);
     PlainDatabase database;
-    database.prepare = [](PlainStorage &storage) {
-        storage.setDefaultNotebook(mKCal::Notebook::Ptr::create());
+    database.prepare = [&](PlainStorage &storage) {
+        for (const QString &uid : qAsConst(uids)) {
+            const auto notebook = mKCal::Notebook::Ptr::create();
+            notebook->setUid(uid);
+            storage.addNotebook(notebook, false);
+        }
+        if (hasDefault)
+            storage.setDefaultNotebook(mKCal::Notebook::Ptr::create());
         storage.calls.clear();
     };
     database.open();
-    QCOMPARE(
-        database.storage->calls,
-        QStringList({QStringLiteral("open"), QStringLiteral("addNotebook %1 0").arg(personalUid),
-                     QStringLiteral("addNotebook %1 0").arg(notesUid)}));
+    QTEST(database.takeCalls(), "calls");
 }
 
 void DbInstanceTest::nothingWithoutADatabase()
 {
     PlainDatabase database;
     database.openEnabled(DbInstance::CalendarUser);
-    DbInstance *const db = DbInstance::instance();
     DbInstance::destroy();
 
-    QSignalSpy updated(db, &DbInstance::dataUpdated);
-    QSignalSpy enabled(db, &DbInstance::dbEnabled);
-    QSignalSpy notOpened(db, &DbInstance::dbOpenedNok);
-    QSignalSpy saved(db, &DbInstance::dbSaved);
+    DbSignals told;
     WarningCapture warnings;
     KDateTime last;
-    QVERIFY(!db->didDatabaseOpenSucceed());
-    QVERIFY(!db->isEnabled());
-    QVERIFY(!db->tryOpenDatabase());
-    QVERIFY(!db->save());
-    QVERIFY(!db->save(true));
-    QVERIFY(!db->loadFutureIncidences(1, &last));
-    QVERIFY(!db->incidence(QStringLiteral("uid"), KDateTime()));
-    QCOMPARE(db->databaseFileName(), QString());
-    db->setUser(DbInstance::CalendarUser);
-    db->threadedInit();
-    db->enableDb();
-    db->load(QDate(2011, 3, 10));
-    db->load(QDate(2011, 3, 10), QDate(2011, 3, 11));
-    db->loadJournals();
-    db->loadUncompletedTodos();
-    db->loadRecurringIncidences();
-    db->updateNotebook(mKCal::Notebook::Ptr::create());
-    db->updateNotebookAsync();
-    db->systemModified();
-    db->recalculateAlarms();
-    db->timeSettingsChanged(Ostra::Timed::WallClock::Info(3600), true);
-    db->storageModified(nullptr, QString());
+    QVERIFY(!db().didDatabaseOpenSucceed());
+    QVERIFY(!db().isEnabled());
+    QVERIFY(!db().tryOpenDatabase());
+    QVERIFY(!db().save());
+    QVERIFY(!db().save(true));
+    QVERIFY(!db().loadFutureIncidences(1, &last));
+    QVERIFY(!db().incidence("uid", KDateTime()));
+    QCOMPARE(db().databaseFileName(), QString());
+    db().setUser(DbInstance::CalendarUser);
+    db().threadedInit();
+    db().enableDb();
+    db().load(QDate(2011, 3, 10));
+    db().load(QDate(2011, 3, 10), QDate(2011, 3, 11));
+    db().loadJournals();
+    db().loadUncompletedTodos();
+    db().loadRecurringIncidences();
+    db().updateNotebook(mKCal::Notebook::Ptr::create());
+    db().updateNotebookAsync();
+    db().systemModified();
+    db().recalculateAlarms();
+    db().timeSettingsChanged(Ostra::Timed::WallClock::Info(3600), true);
+    db().storageModified(nullptr, QString());
     DbInstance::destroy();
-    QCOMPARE(updated.count() + enabled.count() + notOpened.count() + saved.count(), 0);
+    QCOMPARE(told.take(), QString());
     QCOMPARE(warnings.take(), QStringList());
 
     database.open();
-    QVERIFY(db->didDatabaseOpenSucceed());
-    QVERIFY(!db->isEnabled());
+    QVERIFY(db().didDatabaseOpenSucceed());
+    QVERIFY(!db().isEnabled());
 }
 
 void DbInstanceTest::enabling_data()
 {
-    QTest::addColumn<DbInstance::DbUser>("user");
-    QTest::addColumn<QStringList>("calls");
-    QTest::addColumn<int>("updates");
-
-    QTest::newRow("calendar") << DbInstance::CalendarUser << calendarPreload << 2;
-    QTest::newRow("notes") << DbInstance::NotesUser << journalPreload << 2;
-    QTest::newRow("nobody") << DbInstance::NoUser << QStringList() << 1;
-    QTest::newRow("unknown") << unknownUser << QStringList() << 1;
+    addColumns<DbInstance::DbUser, QString, QString>("user", "calls", "told");
+    addRow("calendar", DbInstance::CalendarUser, calendarPreload, "updated, updated, enabled");
+    addRow("notes", DbInstance::NotesUser, journalPreload, "updated, updated, enabled");
+    addRow("nobody", DbInstance::NoUser, QString(), "updated, enabled");
+    addRow("unknown", unknownUser, QString(), "updated, enabled");
 }
 
 void DbInstanceTest::enabling()
 {
     QFETCH(DbInstance::DbUser, user);
-    QFETCH(int, updates);
     PlainDatabase database;
     database.open();
-    database.storage->calls.clear();
-    DbInstance *const db = DbInstance::instance();
-    QStringList order;
-    QObject receiver;
-    connect(db, &DbInstance::dataUpdated, &receiver, [&] { order << QStringLiteral("updated"); });
-    connect(db, &DbInstance::dbEnabled, &receiver, [&] { order << QStringLiteral("enabled"); });
+    database.takeCalls();
+    DbSignals signalled;
 
-    db->setUser(user);
-    db->enableDb();
-    QVERIFY(db->isEnabled());
-    QTEST(database.storage->takeCalls(), "calls");
-    QCOMPARE(order.size(), updates + 1);
-    QCOMPARE(order.last(), QStringLiteral("enabled"));
+    db().setUser(user);
+    db().enableDb();
+    QVERIFY(db().isEnabled());
+    QTEST(database.takeCalls(), "calls");
+    QTEST(signalled.take(), "told");
 
-    db->enableDb();
-    db->threadedInit();
-    QCOMPARE(order.size(), updates + 1);
-    QCOMPARE(database.storage->calls, QStringList());
+    db().enableDb();
+    db().threadedInit();
+    QCOMPARE(signalled.take(), QString());
+    QCOMPARE(database.takeCalls(), QString());
 }
 
 void DbInstanceTest::storageModified_data()
 {
-    QTest::addColumn<DbInstance::DbUser>("user");
-    QTest::addColumn<QString>("cause");
-    QTest::addColumn<QStringList>("calls");
-    QTest::addColumn<int>("updates");
-    QTest::addColumn<QStringList>("warnings");
+    addColumns<DbInstance::DbUser, QString, QString, int, QStringList>("user", "cause", "calls",
+                                                                       "updates", "warnings");
 
-    const QStringList none;
-    const QStringList noCaches{QStringLiteral("No loading of caches..")};
-    const QStringList noType{
-        QStringLiteral("UserType in DbInstance not set. Unkown behavior on the caches")};
-    for (const char *cause : {"another process", "save(true)"}) {
-        const QString text = QLatin1String(cause);
-        QTest::addRow("calendar, %s", cause)
-            << DbInstance::CalendarUser << text << calendarPreload << 2 << none;
-        QTest::addRow("notes, %s", cause)
-            << DbInstance::NotesUser << text << journalPreload << 2 << none;
-        QTest::addRow("nobody, %s", cause) << DbInstance::NoUser << text << none << 1 << noCaches;
-        QTest::addRow("unknown, %s", cause) << unknownUser << text << none << 1 << noType;
+    const struct {
+        const char *name;
+        DbInstance::DbUser user;
+        QString calls;
+        int updates;
+        QStringList warnings;
+    } users[] = {
+        {"calendar", DbInstance::CalendarUser, calendarPreload, 2, {}},
+        {"notes", DbInstance::NotesUser, journalPreload, 2, {}},
+        {"nobody", DbInstance::NoUser, {}, 1, {"No loading of caches.."}},
+        {"unknown",
+         unknownUser,
+         {},
+         1,
+         {"UserType in DbInstance not set. Unkown behavior on the caches"}},
+    };
+    for (const auto &of : users) {
+        for (const char *cause : {"another process", "save(true)"})
+            QTest::addRow("%s, %s", of.name, cause)
+                << of.user << cause << of.calls << of.updates << of.warnings;
+        QTest::addRow("%s, save()", of.name)
+            << of.user << "save()" << QString() << 1 << QStringList();
     }
-    const QString own = QStringLiteral("save()");
-    QTest::newRow("calendar, save()") << DbInstance::CalendarUser << own << none << 1 << none;
-    QTest::newRow("notes, save()") << DbInstance::NotesUser << own << none << 1 << none;
-    QTest::newRow("nobody, save()") << DbInstance::NoUser << own << none << 1 << none;
-    QTest::newRow("unknown, save()") << unknownUser << own << none << 1 << none;
 }
 
 void DbInstanceTest::storageModified()
@@ -217,32 +219,25 @@ void DbInstanceTest::storageModified()
     QFETCH(QString, cause);
     PlainDatabase database;
     database.openEnabled(user);
-    DbInstance *const db = DbInstance::instance();
     // Only the calendar's cache is renewed.
-    ExpandedIncidencesCache *const cache = ExpandedIncidencesCache::instance();
-    const QDate day(2011, 3, 12);
     if (user == DbInstance::CalendarUser)
-        QVERIFY(cache->getExpandedEventsAndTodos(day, day).isEmpty());
-    db->calendar()->addEvent(makeEvent(QStringLiteral("new"), localTime("2011-03-12T10:00"),
-                                       localTime("2011-03-12T11:00")));
+        QCOMPARE(shown(), 0);
+    addToShownDay();
 
-    QSignalSpy updated(db, &DbInstance::dataUpdated);
+    DbSignals told;
     WarningCapture warnings;
-    if (cause == QLatin1String("save()"))
-        QVERIFY(db->save());
-    else if (cause == QLatin1String("save(true)"))
-        QVERIFY(db->save(true));
-    else
+    if (cause == "another process")
         database.storage->tellModified();
+    else
+        QVERIFY(db().save(cause == "save(true)"));
 
-    QStringList calls = database.storage->takeCalls();
-    calls.removeAll(QStringLiteral("save"));
-    QTEST(calls, "calls");
-    QTEST(updated.count(), "updates");
+    database.storage->calls.removeAll("save");
+    QTEST(database.takeCalls(), "calls");
+    QTEST(told.told.count("updated"), "updates");
     QTEST(warnings.take(), "warnings");
     if (user == DbInstance::CalendarUser) {
-        QCOMPARE(cache->getExpandedEventsAndTodos(day, day).size(), 1);
-        QCOMPARE(database.storage->calls, QStringList());
+        QCOMPARE(shown(), 1);
+        QCOMPARE(database.takeCalls(), QString());
     }
 }
 
@@ -252,31 +247,29 @@ void DbInstanceTest::failedSaveMarksTheNextNotification()
     database.openEnabled(DbInstance::NotesUser);
     WarningCapture warnings;
     database.storage->accepts = false;
-    QVERIFY(!DbInstance::instance()->save());
-    database.storage->calls.clear();
+    QVERIFY(!db().save());
+    database.takeCalls();
 
     database.storage->tellModified();
-    QCOMPARE(database.storage->takeCalls(), QStringList());
+    QCOMPARE(database.takeCalls(), QString());
     database.storage->tellModified();
-    QCOMPARE(database.storage->takeCalls(), journalPreload);
+    QCOMPARE(database.takeCalls(), journalPreload);
 }
 
 void DbInstanceTest::journalsOutliveTheLoadRecord()
 {
     PlainDatabase database;
     database.openEnabled(DbInstance::NoUser);
-    DbInstance *const db = DbInstance::instance();
     const auto loadAll = [&] {
-        db->loadJournals();
-        db->loadUncompletedTodos();
-        db->loadRecurringIncidences();
-        db->load(QDate(2011, 3, 1), QDate(2011, 3, 2));
-        return database.storage->takeCalls();
+        db().loadJournals();
+        db().loadUncompletedTodos();
+        db().loadRecurringIncidences();
+        db().load(QDate(2011, 3, 1), QDate(2011, 3, 2));
+        return database.takeCalls();
     };
-    const QStringList bulk{QStringLiteral("loadTodos"), QStringLiteral("loadRecurring"),
-                           QStringLiteral("load 2011-03-01 2011-03-02")};
-    QCOMPARE(loadAll(), journalPreload + bulk);
-    QCOMPARE(loadAll(), QStringList());
+    const QString bulk = "loadTodos, loadRecurring, load 2011-03-01 2011-03-02";
+    QCOMPARE(loadAll(), "loadJournals, " + bulk);
+    QCOMPARE(loadAll(), QString());
     WarningCapture warnings;
     database.storage->tellModified();
     QCOMPARE(loadAll(), bulk);
@@ -284,55 +277,47 @@ void DbInstanceTest::journalsOutliveTheLoadRecord()
 
 void DbInstanceTest::timeNews_data()
 {
-    QTest::addColumn<DbInstance::DbUser>("user");
-    QTest::addColumn<qint64>("jump");
-    QTest::addColumn<QStringList>("calls");
+    addColumns<DbInstance::DbUser, int, QString>("user", "jump", "calls");
 
-    const QStringList reminders{QStringLiteral("allIncidences "), QStringLiteral("resetAlarms 1")};
-    QTest::newRow("calendar, clock set ahead") << DbInstance::CalendarUser << 3600LL << reminders;
-    QTest::newRow("calendar, clock set back") << DbInstance::CalendarUser << -60LL << reminders;
-    QTest::newRow("calendar, other zone") << DbInstance::CalendarUser << 0LL << QStringList();
-    QTest::newRow("notes, clock set ahead") << DbInstance::NotesUser << 3600LL << QStringList();
-    QTest::newRow("nobody, other zone") << DbInstance::NoUser << 0LL << QStringList();
+    const QString reminders = "allIncidences , resetAlarms 1";
+    addRow("calendar, clock set ahead", DbInstance::CalendarUser, 3600, reminders);
+    addRow("calendar, clock set back", DbInstance::CalendarUser, -60, reminders);
+    addRow("calendar, other zone", DbInstance::CalendarUser, 0, QString());
+    addRow("notes, clock set ahead", DbInstance::NotesUser, 3600, QString());
+    addRow("nobody, other zone", DbInstance::NoUser, 0, QString());
 }
 
 void DbInstanceTest::timeNews()
 {
     QFETCH(DbInstance::DbUser, user);
-    QFETCH(qint64, jump);
+    QFETCH(int, jump);
     PlainDatabase database;
     database.openEnabled(user);
-    DbInstance *const db = DbInstance::instance();
-    database.storage->stored << makeTodo(QStringLiteral("todo"), QDateTime());
-    ExpandedIncidencesCache *const cache = ExpandedIncidencesCache::instance();
-    const QDate day(2011, 3, 12);
-    cache->loadExpandedEventsAndTodos(day, day);
-    database.storage->calls.clear();
-    db->calendar()->addEvent(makeEvent(QStringLiteral("new"), localTime("2011-03-12T10:00"),
-                                       localTime("2011-03-12T11:00")));
-    QSignalSpy updated(db, &DbInstance::dataUpdated);
+    database.storage->stored << makeTodo("todo", QDateTime());
+    ExpandedIncidencesCache::instance()->loadExpandedEventsAndTodos(shownDay, shownDay);
+    database.takeCalls();
+    addToShownDay();
+    DbSignals told;
 
     if (jump != 0)
         database.environment.jumpClock(jump);
     else
         database.environment.changeZone("America/New_York");
-    QTRY_COMPARE(updated.count(), 1);
-    QTEST(database.storage->takeCalls(), "calls");
-    QCOMPARE(db->calendar()->timeZoneId(),
+    QTRY_COMPARE(told.told, QStringList{"updated"});
+    QTEST(database.takeCalls(), "calls");
+    QCOMPARE(db().calendar()->timeZoneId(),
              jump != 0 ? QByteArray("Europe/Helsinki") : QByteArray("America/New_York"));
     // Renewed for the calendar only; for the others it still shows what it was filled with.
-    QCOMPARE(cache->getExpandedEventsAndTodos(day, day).size(),
-             user == DbInstance::CalendarUser ? 1 : 0);
+    QCOMPARE(shown(), user == DbInstance::CalendarUser ? 1 : 0);
 }
 
 void DbInstanceTest::remindersAnew()
 {
     PlainDatabase database;
     database.open();
-    database.storage->calls.clear();
-    DbInstance::instance()->recalculateAlarms();
-    QCOMPARE(database.storage->calls,
-             QStringList({QStringLiteral("allIncidences "), QStringLiteral("resetAlarms 0")}));
+    database.takeCalls();
+    db().recalculateAlarms();
+    QCOMPARE(database.takeCalls(), "allIncidences , resetAlarms 0");
 }
 
 QTEST_GUILESS_MAIN(DbInstanceTest)

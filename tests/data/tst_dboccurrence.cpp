@@ -3,6 +3,7 @@
 
 #include "incidences.h"
 #include "testenvironment.h"
+#include "testtable.h"
 
 #include <daskel/db_instance.h>
 
@@ -34,46 +35,29 @@ Incidence::Ptr daily(const Incidence::Ptr &incidence)
 
 Incidence::Ptr meeting()
 {
-    return makeEvent(QStringLiteral("meeting"), localTime("2011-03-10T10:00"),
-                     localTime("2011-03-10T11:30"));
+    return makeEvent("meeting", localTime("2011-03-10T10:00"), localTime("2011-03-10T11:30"));
 }
 
 Incidence::Ptr nightShift()
 {
-    return makeEvent(QStringLiteral("night shift"), localTime("2011-03-10T22:00"),
-                     localTime("2011-03-11T06:00"));
-}
-
-Incidence::Ptr withExtraDates()
-{
-    auto event = meeting();
-    for (const int day : {5, 10, 15})
-        event->recurrence()->addRDateTime(QDateTime(QDate(2011, 5, day), QTime(10, 0)));
-    return event;
-}
-
-Incidence::Ptr withoutTheEleventh()
-{
-    auto event = daily(meeting());
-    event->recurrence()->addExDateTime(localTime("2011-03-11T10:00"));
-    return event;
+    return makeEvent("night shift", localTime("2011-03-10T22:00"), localTime("2011-03-11T06:00"));
 }
 
 Incidence::Ptr inNewYork()
 {
     const QTimeZone zone("America/New_York");
-    return makeEvent(QStringLiteral("New York"), QDateTime(QDate(2011, 3, 10), QTime(9, 0), zone),
+    return makeEvent("New York", QDateTime(QDate(2011, 3, 10), QTime(9, 0), zone),
                      QDateTime(QDate(2011, 3, 10), QTime(10, 0), zone));
 }
 
 Incidence::Ptr holiday()
 {
-    return makeAllDayEvent(QStringLiteral("holiday"), QDate(2011, 3, 10), QDate(2011, 3, 11));
+    return makeAllDayEvent("holiday", QDate(2011, 3, 10), QDate(2011, 3, 11));
 }
 
 Incidence::Ptr task()
 {
-    const auto todo = makeTodo(QStringLiteral("task"), localTime("2011-03-10T18:00"));
+    const auto todo = makeTodo("task", localTime("2011-03-10T18:00"));
     todo->setDtStart(localTime("2011-03-10T09:00"));
     return todo;
 }
@@ -81,7 +65,7 @@ Incidence::Ptr task()
 Incidence::Ptr allDayInNewYork()
 {
     const QTimeZone zone("America/New_York");
-    const auto event = makeEvent(QStringLiteral("holiday"), QDate(2011, 3, 10).startOfDay(zone),
+    const auto event = makeEvent("holiday", QDate(2011, 3, 10).startOfDay(zone),
                                  QDate(2011, 3, 11).startOfDay(zone));
     event->setAllDay(true);
     return event;
@@ -90,39 +74,26 @@ Incidence::Ptr allDayInNewYork()
 
 void DbOccurrenceTest::start_data()
 {
-    QTest::addColumn<Incidence::Ptr>("incidence");
-    QTest::addColumn<QDateTime>("time");
-    QTest::addColumn<QDateTime>("start");
+    addColumns<Incidence::Ptr, QDateTime, QDateTime>("incidence", "time", "start");
 
-    const QDateTime none;
-    QTest::newRow("no incidence") << Incidence::Ptr() << localTime("2011-03-10T10:00") << none;
-    QTest::newRow("single, another day")
-        << meeting() << localTime("2011-06-01T00:00") << localTime("2011-03-10T10:00");
-    QTest::newRow("recurring, exactly at its start")
-        << daily(meeting()) << localTime("2011-03-15T10:00") << localTime("2011-03-15T10:00");
-    QTest::newRow("recurring, a second before")
-        << daily(meeting()) << localTime("2011-03-15T09:59:59") << localTime("2011-03-14T10:00");
-    QTest::newRow("recurring, given in UTC")
-        << daily(meeting()) << localTime("2011-03-15T10:00").toUTC()
-        << localTime("2011-03-15T10:00");
-    QTest::newRow("recurring, after the clock change")
-        << daily(meeting()) << localTime("2011-03-28T12:00") << localTime("2011-03-28T10:00");
-    QTest::newRow("recurring, before the first")
-        << daily(meeting()) << localTime("2011-03-09T10:00") << none;
-    QTest::newRow("recurring, excluded day")
-        << withoutTheEleventh() << localTime("2011-03-11T12:00") << localTime("2011-03-10T10:00");
-    QTest::newRow("several extra dates")
-        << withExtraDates() << localTime("2011-05-20T12:00") << localTime("2011-05-15T10:00");
-    QTest::newRow("another zone") << inNewYork() << localTime("2011-03-10T18:00")
-                                  << localTime("2011-03-10T16:00");
-    QTest::newRow("recurring in another zone whose clock changed first")
-        << daily(inNewYork()) << localTime("2011-03-14T18:00") << localTime("2011-03-14T15:00");
-    QTest::newRow("recurring, all day")
-        << daily(holiday()) << localTime("2011-03-28T12:00") << localTime("2011-03-28T00:00");
-    QTest::newRow("all day in another zone keeps its date")
-        << allDayInNewYork() << localTime("2011-03-10T12:00") << localTime("2011-03-10T00:00");
-    QTest::newRow("to-do without dates") << Incidence::Ptr(makeTodo(QStringLiteral("todo"), none))
-                                         << localTime("2011-03-10T12:00") << none;
+    const auto row = [](const char *name, const Incidence::Ptr &incidence, const char *time,
+                        const char *start) {
+        addRow(name, incidence, localTime(time), localTime(start));
+    };
+    row("no incidence", {}, "2011-03-10T10:00", "");
+    row("single, another day", meeting(), "2011-06-01T00:00", "2011-03-10T10:00");
+    row("recurring, exactly at its start", daily(meeting()), "2011-03-15T10:00",
+        "2011-03-15T10:00");
+    addRow("recurring, given in UTC", daily(meeting()), localTime("2011-03-15T10:00").toUTC(),
+           localTime("2011-03-15T10:00"));
+    row("recurring, before the first", daily(meeting()), "2011-03-09T10:00", "");
+    row("another zone", inNewYork(), "2011-03-10T18:00", "2011-03-10T16:00");
+    row("recurring in another zone whose clock changed first", daily(inNewYork()),
+        "2011-03-14T18:00", "2011-03-14T15:00");
+    row("recurring, all day", daily(holiday()), "2011-03-28T12:00", "2011-03-28T00:00");
+    row("all day in another zone keeps its date", allDayInNewYork(), "2011-03-10T12:00",
+        "2011-03-10T00:00");
+    row("to-do without dates", makeTodo("todo", QDateTime()), "2011-03-10T12:00", "");
 }
 
 void DbOccurrenceTest::start()
@@ -137,19 +108,14 @@ void DbOccurrenceTest::start()
 
 void DbOccurrenceTest::end_data()
 {
-    QTest::addColumn<Incidence::Ptr>("incidence");
-    QTest::addColumn<QDateTime>("time");
-    QTest::addColumn<QDateTime>("end");
-    QTest::addColumn<QDateTime>("endOfDay");
+    addColumns<Incidence::Ptr, QDateTime, QDateTime, QDateTime>("incidence", "time", "end",
+                                                                "endOfDay");
 
-    const QDateTime none;
     const auto row = [](const char *name, const Incidence::Ptr &incidence, const char *time,
                         const char *end, const char *endOfDay) {
-        QTest::newRow(name) << incidence << localTime(time) << localTime(end)
-                            << localTime(endOfDay);
+        addRow(name, incidence, localTime(time), localTime(end), localTime(endOfDay));
     };
-    QTest::newRow("no incidence") << Incidence::Ptr() << localTime("2011-03-10T10:00") << none
-                                  << none;
+    row("no incidence", {}, "2011-03-10T10:00", "", "");
     row("within the day", daily(meeting()), "2011-03-15T10:00", "2011-03-15T11:30",
         "2011-03-15T11:30");
     row("asked in its middle", daily(meeting()), "2011-03-15T10:45", "2011-03-15T11:30",
@@ -165,17 +131,14 @@ void DbOccurrenceTest::end_data()
     row("another zone", inNewYork(), "2011-03-10T16:30", "2011-03-10T17:00", "2011-03-10T17:00");
     row("to-do: when it is due", task(), "2011-03-10T09:30", "2011-03-10T18:00",
         "2011-03-10T18:00");
-    QTest::newRow("to-do that starts nowhere")
-        << Incidence::Ptr(makeTodo(QStringLiteral("todo"), localTime("2011-03-10T18:00")))
-        << localTime("2011-03-10T12:00") << none << none;
-    row("journal ends where it starts",
-        makeJournal(QStringLiteral("journal"), localTime("2011-03-10T18:00")), "2011-03-10T20:00",
-        "2011-03-10T18:00", "2011-03-10T18:00");
-    QTest::newRow("over midnight, given in UTC")
-        << daily(nightShift()) << localTime("2011-03-16T01:00").toUTC()
-        << localTime("2011-03-16T06:00") << localTime("2011-03-16T06:00");
-    QTest::newRow("to-do without dates") << Incidence::Ptr(makeTodo(QStringLiteral("todo"), none))
-                                         << localTime("2011-03-10T12:00") << none << none;
+    row("to-do that starts nowhere", makeTodo("todo", localTime("2011-03-10T18:00")),
+        "2011-03-10T12:00", "", "");
+    row("journal ends where it starts", makeJournal("journal", localTime("2011-03-10T18:00")),
+        "2011-03-10T20:00", "2011-03-10T18:00", "2011-03-10T18:00");
+    addRow("over midnight, given in UTC", daily(nightShift()),
+           localTime("2011-03-16T01:00").toUTC(), localTime("2011-03-16T06:00"),
+           localTime("2011-03-16T06:00"));
+    row("to-do without dates", makeTodo("todo", QDateTime()), "2011-03-10T12:00", "", "");
 }
 
 void DbOccurrenceTest::end()

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The daskel authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
+#include "dbsignals.h"
 #include "plaindatabase.h"
 #include "warningcapture.h"
 
@@ -28,21 +29,19 @@ void DbRetriesTest::initTestCase()
 {
     m_database = std::make_unique<PlainDatabase>();
     m_database->prepare = [](PlainStorage &storage) { storage.failingOpens = 1000; };
-    QSignalSpy notOpened(DbInstance::instance(), &DbInstance::dbOpenedNok);
+    DbSignals told;
     m_database->open();
     QVERIFY(!DbInstance::instance()->didDatabaseOpenSucceed());
-    QCOMPARE(notOpened.count(), 0);
+    QCOMPARE(told.take(), "updated");
     // The first attempt of each opening, and no notebook is looked for.
-    QCOMPARE(m_database->storage->calls, QStringList{QStringLiteral("open")});
+    QCOMPARE(m_database->takeCalls(), "open");
 }
 
 void DbRetriesTest::threeMoreAttempts()
 {
     DbInstance *const db = DbInstance::instance();
-    m_database->storage->calls.clear();
-    QSignalSpy opened(db, &DbInstance::dbOpenedOk);
     QSignalSpy notOpened(db, &DbInstance::dbOpenedNok);
-    QSignalSpy enabled(db, &DbInstance::dbEnabled);
+    DbSignals told;
     WarningCapture warnings;
     QElapsedTimer elapsed;
     elapsed.start();
@@ -53,61 +52,50 @@ void DbRetriesTest::threeMoreAttempts()
 
     QVERIFY(notOpened.wait());
     QVERIFY(elapsed.elapsed() >= 2 * 700);
-    QCOMPARE(m_database->storage->takeCalls(),
-             QStringList({QStringLiteral("open"), QStringLiteral("open"), QStringLiteral("open")}));
-    QCOMPARE(
-        warnings.take(),
-        QStringList({QStringLiteral("Database is locked!"), QStringLiteral("Database is locked!"),
-                     QStringLiteral("Database is locked!")}));
+    QCOMPARE(m_database->takeCalls(), "open, open, open");
+    const QString locked = "Database is locked!";
+    QCOMPARE(warnings.take(), QStringList({locked, locked, locked}));
     QVERIFY(!notOpened.wait(800)); // nobody tries on
-    QCOMPARE(notOpened.count(), 1);
-    QCOMPARE(opened.count() + enabled.count(), 0);
+    QCOMPARE(told.take(), "not opened");
 }
 
 void DbRetriesTest::thenOneForEachCall()
 {
     DbInstance *const db = DbInstance::instance();
-    QSignalSpy notOpened(db, &DbInstance::dbOpenedNok);
+    DbSignals told;
     WarningCapture warnings;
     QVERIFY(!db->tryOpenDatabase());
     db->load(QDate(2011, 3, 10)); // refused, but it tries to open all the same
-    QCOMPARE(notOpened.count(), 2);
-    QCOMPARE(m_database->storage->takeCalls(),
-             QStringList({QStringLiteral("open"), QStringLiteral("open")}));
+    QCOMPARE(told.take(), "not opened, not opened");
+    QCOMPARE(m_database->takeCalls(), "open, open");
     QCOMPARE(warnings.take().size(), 2);
 }
 
 void DbRetriesTest::startingOverGivesNoMoreTime()
 {
-    DbInstance *const db = DbInstance::instance();
-    QSignalSpy notOpened(db, &DbInstance::dbOpenedNok);
-    QSignalSpy updated(db, &DbInstance::dataUpdated);
+    DbSignals told;
     WarningCapture warnings;
     m_database->open();
-    QCOMPARE(updated.count(), 1);
-    QVERIFY(!db->tryOpenDatabase());
-    QCOMPARE(notOpened.count(), 1);
-    QCOMPARE(m_database->storage->takeCalls(),
-             QStringList({QStringLiteral("open"), QStringLiteral("open")}));
+    QCOMPARE(told.take(), "updated");
+    QVERIFY(!DbInstance::instance()->tryOpenDatabase());
+    QCOMPARE(told.take(), "not opened");
+    QCOMPARE(m_database->takeCalls(), "open, open");
 }
 
 void DbRetriesTest::openingAtLast()
 {
     DbInstance *const db = DbInstance::instance();
-    QSignalSpy opened(db, &DbInstance::dbOpenedOk);
-    QSignalSpy notOpened(db, &DbInstance::dbOpenedNok);
-    QSignalSpy enabled(db, &DbInstance::dbEnabled);
+    DbSignals told;
     WarningCapture warnings;
     m_database->storage->failingOpens = 0;
-
     db->enableDb();
     QVERIFY(db->didDatabaseOpenSucceed());
     QVERIFY(db->isEnabled());
-    QCOMPARE(opened.count(), 1);
-    QCOMPARE(notOpened.count(), 0);
-    QCOMPARE(enabled.count(), 1);
+    for (const char *once : {"opened", "enabled"})
+        QCOMPARE(told.told.count(once), 1);
+    QVERIFY(!told.told.contains("not opened"));
     // threadedInit(), called above in vain, is called again by dbEnabled() and finds it enabled.
-    QVERIFY(!m_database->storage->calls.contains(QStringLiteral("loadJournals")));
+    QVERIFY(!m_database->storage->calls.contains("loadJournals"));
     m_database.reset();
 }
 

@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The daskel authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
+#include "testtable.h"
+
 #include <daskel/db_instance.h>
 #include <daskel/expandedincidencescache.h>
 #include <daskel/notebookmanager.h>
@@ -10,6 +12,13 @@
 
 Q_DECLARE_METATYPE(const QMetaObject *)
 
+static_assert(DbInstance::CalendarUser == 0 && DbInstance::NotesUser == 1
+              && DbInstance::NoUser == 2);
+static_assert(DbInstance::DbSaveOk == 0 && DbInstance::DbSaveFailed == 1
+              && DbInstance::DbSaveStorageError10 == 2);
+static_assert(NotebookManager::NoModifyError == 0 && NotebookManager::ModifyFailed == 1
+              && NotebookManager::ModifyStorageError10 == 2);
+
 /// What other programs rely on by number: the order of signals and slots, the values of the
 /// enumerations.
 class MetaObjectsTest : public QObject
@@ -18,37 +27,24 @@ class MetaObjectsTest : public QObject
 private Q_SLOTS:
     void methods_data();
     void methods();
-    void enumerators_data();
-    void enumerators();
 };
 
 void MetaObjectsTest::methods_data()
 {
-    QTest::addColumn<const QMetaObject *>("metaObject");
-    QTest::addColumn<QStringList>("signatures");
+    addColumns<const QMetaObject *, QStringList>("metaObject", "signatures");
 
-    QTest::newRow("DbInstance")
-        << &DbInstance::staticMetaObject
-        << QStringList{
-               QStringLiteral("signal dataUpdated()"),
-               QStringLiteral("signal dbEnabled()"),
-               QStringLiteral("signal dbOpenedOk()"),
-               QStringLiteral("signal dbOpenedNok()"),
-               QStringLiteral("signal dbSaved(DbInstance::DbSaveError)"),
-               QStringLiteral("slot timeSettingsChanged(Ostra::Timed::WallClock::Info,bool)"),
-               QStringLiteral("slot enableDb()"),
-               QStringLiteral("slot save(bool)"),
-               QStringLiteral("slot save()"),
-               QStringLiteral("slot tryOpenDatabase()"),
-               QStringLiteral("slot threadedInit()"),
-               QStringLiteral("slot updateNotebookAsync()")};
-    QTest::newRow("ExpandedIncidencesCache")
-        << &ExpandedIncidencesCache::staticMetaObject << QStringList{};
-    QTest::newRow("NotebookManager")
-        << &NotebookManager::staticMetaObject
-        << QStringList{QStringLiteral("signal notebooksChanged()"),
-                       QStringLiteral("signal notebooksModified(NotebookManager::ModifyError)"),
-                       QStringLiteral("slot dataUpdated()")};
+    addRow("DbInstance", &DbInstance::staticMetaObject,
+           QStringList{"signal dataUpdated()", "signal dbEnabled()", "signal dbOpenedOk()",
+                       "signal dbOpenedNok()", "signal dbSaved(DbInstance::DbSaveError)",
+                       "slot timeSettingsChanged(Ostra::Timed::WallClock::Info,bool)",
+                       "slot enableDb()", "slot save(bool)", "slot save()",
+                       "slot tryOpenDatabase()", "slot threadedInit()",
+                       "slot updateNotebookAsync()"});
+    addRow("ExpandedIncidencesCache", &ExpandedIncidencesCache::staticMetaObject, QStringList{});
+    addRow("NotebookManager", &NotebookManager::staticMetaObject,
+           QStringList{"signal notebooksChanged()",
+                       "signal notebooksModified(NotebookManager::ModifyError)",
+                       "slot dataUpdated()"});
 }
 
 void MetaObjectsTest::methods()
@@ -62,28 +58,6 @@ void MetaObjectsTest::methods()
                 + QLatin1String(method.methodSignature());
     }
     QTEST(found, "signatures");
-}
-
-void MetaObjectsTest::enumerators_data()
-{
-    QTest::addColumn<int>("value");
-    QTest::addColumn<int>("fixed");
-
-    QTest::newRow("the calendar") << int(DbInstance::CalendarUser) << 0;
-    QTest::newRow("notes") << int(DbInstance::NotesUser) << 1;
-    QTest::newRow("nobody") << int(DbInstance::NoUser) << 2;
-    QTest::newRow("saved") << int(DbInstance::DbSaveOk) << 0;
-    QTest::newRow("not saved") << int(DbInstance::DbSaveFailed) << 1;
-    QTest::newRow("not saved, error 10") << int(DbInstance::DbSaveStorageError10) << 2;
-    QTest::newRow("modified") << int(NotebookManager::NoModifyError) << 0;
-    QTest::newRow("not modified") << int(NotebookManager::ModifyFailed) << 1;
-    QTest::newRow("not modified, error 10") << int(NotebookManager::ModifyStorageError10) << 2;
-}
-
-void MetaObjectsTest::enumerators()
-{
-    QFETCH(int, value);
-    QTEST(value, "fixed");
 }
 
 QTEST_GUILESS_MAIN(MetaObjectsTest)

@@ -16,7 +16,7 @@ using mKCal::Notebook;
 
 namespace
 {
-const QString notesUid = QStringLiteral("66666666-7777-8888-9999-000000000000");
+const QString notesUid = "66666666-7777-8888-9999-000000000000";
 
 Notebook::Ptr makeNotebook(const char *name)
 {
@@ -26,12 +26,12 @@ Notebook::Ptr makeNotebook(const char *name)
     return notebook;
 }
 
-QStringList names(const Notebook::List &notebooks)
+QString names(const Notebook::List &notebooks)
 {
     QStringList result;
     for (const Notebook::Ptr &notebook : notebooks)
         result << notebook->name();
-    return result;
+    return result.join(", ");
 }
 } // namespace
 
@@ -42,8 +42,7 @@ class NotebookManagerTest : public QObject
 private Q_SLOTS:
     void listsCopiesOfWhatIsNotHidden();
     void unequalAsLongAsOneIsHidden();
-    void adding();
-    void changing();
+    void addingAndChanging();
     void deleting();
     void refused_data();
     void refused();
@@ -68,13 +67,13 @@ void NotebookManagerTest::listsCopiesOfWhatIsNotHidden()
     PlainDatabase database;
     database.open();
     manager().dataUpdated();
-    QCOMPARE(names(manager().notebooks()), QStringList{QStringLiteral("Personal")});
+    QCOMPARE(names(manager().notebooks()), "Personal");
     const auto listed = manager().notebooks().first();
-    listed->setName(QStringLiteral("edited"));
-    QCOMPARE(manager().getNotebook(listed->uid())->name(), QStringLiteral("Personal"));
+    listed->setName("edited");
+    QCOMPARE(manager().getNotebook(listed->uid())->name(), "Personal");
     QCOMPARE(manager().getDefaultNotebook()->uid(), listed->uid());
     QVERIFY(manager().getNotebook(notesUid)->isHidden());
-    QVERIFY(!manager().getNotebook(QStringLiteral("unknown")));
+    QVERIFY(!manager().getNotebook("unknown"));
 }
 
 void NotebookManagerTest::unequalAsLongAsOneIsHidden()
@@ -92,40 +91,29 @@ void NotebookManagerTest::unequalAsLongAsOneIsHidden()
     QCOMPARE(changed.count(), 3);
     manager().dataUpdated(); // now they are equal
     QCOMPARE(changed.count(), 3);
-    notes->setColor(QStringLiteral("#000000"));
+    notes->setColor("#000000");
     WarningCapture warnings;
     database.storage->tellModified(); // by way of DbInstance
     QCOMPARE(changed.count(), 4);
 }
 
-void NotebookManagerTest::adding()
+void NotebookManagerTest::addingAndChanging()
 {
     PlainDatabase database;
     database.open();
     manager().dataUpdated();
-    database.storage->calls.clear();
+    database.takeCalls();
     QSignalSpy modified(&manager(), &NotebookManager::notebooksModified);
     const auto work = makeNotebook("work");
     QVERIFY(manager().addNotebook(work));
     QCOMPARE(takeErrors(modified), QList<int>{0});
-    QCOMPARE(database.storage->calls, QStringList{QStringLiteral("addNotebook work 1")});
+    QCOMPARE(database.takeCalls(), "addNotebook work 1");
     QCOMPARE(manager().notebooks().last(), work); // itself, no copy
-    QCOMPARE(manager().notebooks().size(), 2);
-}
-
-void NotebookManagerTest::changing()
-{
-    PlainDatabase database;
-    database.open();
-    manager().dataUpdated();
-    QVERIFY(manager().addNotebook(makeNotebook("work")));
-    QSignalSpy modified(&manager(), &NotebookManager::notebooksModified);
 
     const auto changed = makeNotebook("work");
-    changed->setName(QStringLiteral("office"));
+    changed->setName("office");
     QVERIFY(manager().updateNotebook(changed));
-    QCOMPARE(names(manager().notebooks()),
-             QStringList({QStringLiteral("Personal"), QStringLiteral("office")}));
+    QCOMPARE(names(manager().notebooks()), "Personal, office");
     QCOMPARE(manager().notebooks().last(), changed);
     QVERIFY(manager().updateNotebook(makeNotebook("not listed")));
     QCOMPARE(manager().notebooks().size(), 2);
@@ -139,20 +127,19 @@ void NotebookManagerTest::deleting()
     manager().dataUpdated();
     const auto work = makeNotebook("work");
     QVERIFY(manager().addNotebook(work));
-    database.storage->calls.clear();
+    database.takeCalls();
     QSignalSpy modified(&manager(), &NotebookManager::notebooksModified);
 
     QVERIFY(!manager().deleteNotebook({}));
     QCOMPARE(modified.count(), 0);
     QVERIFY(manager().deleteNotebook(work));
-    QCOMPARE(database.storage->takeCalls(), QStringList{QStringLiteral("deleteNotebook work 0")});
-    QCOMPARE(names(manager().notebooks()), QStringList{QStringLiteral("Personal")});
+    QCOMPARE(database.takeCalls(), "deleteNotebook work 0");
+    QCOMPARE(names(manager().notebooks()), "Personal");
 
     const auto personal = manager().notebooks().first();
     QVERIFY(manager().deleteNotebook(personal));
-    QCOMPARE(database.storage->calls,
-             QStringList({QStringLiteral("deleteNotebook %1 0").arg(personal->uid()),
-                          QStringLiteral("resetDefaultNotebook")}));
+    QCOMPARE(database.takeCalls(),
+             QString("deleteNotebook %1 0, resetDefaultNotebook").arg(personal->uid()));
     QVERIFY(manager().notebooks().isEmpty());
     QCOMPARE(takeErrors(modified), QList<int>({0, 0}));
 }
@@ -172,19 +159,19 @@ void NotebookManagerTest::refused()
     manager().dataUpdated();
     const auto before = manager().notebooks();
     const auto personal = Notebook::Ptr::create(*before.first());
-    personal->setName(QStringLiteral("edited"));
+    personal->setName("edited");
     QSignalSpy modified(&manager(), &NotebookManager::notebooksModified);
 
     database.storage->accepts = false;
-    if (change == QLatin1String("add"))
+    if (change == "add")
         QVERIFY(!manager().addNotebook(makeNotebook("work")));
-    else if (change == QLatin1String("update"))
+    else if (change == "update")
         QVERIFY(!manager().updateNotebook(personal));
     else
         QVERIFY(!manager().deleteNotebook(personal));
     QCOMPARE(takeErrors(modified), QList<int>{1});
     QCOMPARE(manager().notebooks(), before);
-    QVERIFY(!database.storage->calls.contains(QStringLiteral("resetDefaultNotebook")));
+    QVERIFY(!database.storage->calls.contains("resetDefaultNotebook"));
 }
 
 void NotebookManagerTest::brokenDisk()
@@ -212,21 +199,21 @@ void NotebookManagerTest::movingAnIncidence()
     DbInstance *const db = DbInstance::instance();
     db->enableDb();
     QVERIFY(manager().addNotebook(makeNotebook("work")));
-    const auto event = makeEvent(QStringLiteral("event"), localTime("2011-03-10T10:00"),
-                                 localTime("2011-03-10T11:00"));
-    const auto journal = makeJournal(QStringLiteral("journal"), localTime("2011-03-10T10:00"));
+    const auto event =
+        makeEvent("event", localTime("2011-03-10T10:00"), localTime("2011-03-10T11:00"));
+    const auto journal = makeJournal("journal", localTime("2011-03-10T10:00"));
     QVERIFY(db->calendar()->addEvent(event));
     QVERIFY(db->calendar()->addJournal(journal));
     const QString personal = db->calendar()->notebook(event);
 
-    QVERIFY(!manager().setIncidenceNotebook(event, QStringLiteral("unknown")));
+    QVERIFY(!manager().setIncidenceNotebook(event, "unknown"));
     QVERIFY(!manager().setIncidenceNotebook(event, notesUid)); // journals only
-    QVERIFY(!manager().setIncidenceNotebook({}, QStringLiteral("work")));
+    QVERIFY(!manager().setIncidenceNotebook({}, "work"));
     QCOMPARE(db->calendar()->notebook(event), personal);
 
-    QVERIFY(manager().setIncidenceNotebook(event, QStringLiteral("work")));
+    QVERIFY(manager().setIncidenceNotebook(event, "work"));
     QVERIFY(manager().setIncidenceNotebook(journal, notesUid));
-    QCOMPARE(db->calendar()->notebook(event), QStringLiteral("work"));
+    QCOMPARE(db->calendar()->notebook(event), "work");
     QCOMPARE(db->calendar()->notebook(journal), notesUid);
 }
 
@@ -241,12 +228,11 @@ void NotebookManagerTest::onADatabase()
     const auto work = makeNotebook("work");
     QVERIFY(manager().addNotebook(work));
     QTRY_VERIFY(!changed.isEmpty()); // the storage tells
-    QCOMPARE(names(manager().notebooks()),
-             QStringList({QStringLiteral("Personal"), QStringLiteral("work")}));
+    QCOMPARE(names(manager().notebooks()), "Personal, work");
 
     const auto personal = Notebook::Ptr::create(*manager().getDefaultNotebook());
     QVERIFY(manager().deleteNotebook(personal));
-    QCOMPARE(manager().getDefaultNotebook()->uid(), QStringLiteral("work"));
+    QCOMPARE(manager().getDefaultNotebook()->uid(), "work");
 }
 
 QTEST_GUILESS_MAIN(NotebookManagerTest)

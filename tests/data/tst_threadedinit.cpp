@@ -52,15 +52,14 @@ void ThreadedInitTest::init()
     const OtherProcess other;
     for (int i = 0; i < eventCount; ++i) {
         const QDateTime start(QDate(2011, 3, 1 + i % 28), QTime(10, i % 60));
-        const auto event = makeEvent(QStringLiteral("event %1").arg(i), start, start.addSecs(3600));
+        const auto event = makeEvent(QString("event %1").arg(i), start, start.addSecs(3600));
         QVERIFY(other.calendar->addEvent(event));
     }
-    const auto series = makeEvent(QStringLiteral("series"), localTime("2010-03-01T09:00"),
-                                  localTime("2010-03-01T09:30"));
+    const auto series =
+        makeEvent("series", localTime("2010-03-01T09:00"), localTime("2010-03-01T09:30"));
     series->recurrence()->setDaily(2);
     QVERIFY(other.calendar->addEvent(series));
-    QVERIFY(other.calendar->addJournal(
-        makeJournal(QStringLiteral("journal"), localTime("2010-01-01T10:00"))));
+    QVERIFY(other.calendar->addJournal(makeJournal("journal", localTime("2010-01-01T10:00"))));
     QVERIFY(other.storage->save());
 }
 
@@ -70,8 +69,8 @@ void ThreadedInitTest::handsOver_data()
     QTest::addColumn<QString>("loaded");
     QTest::addColumn<QString>("notLoaded");
 
-    const QString series = QStringLiteral("series");
-    const QString journal = QStringLiteral("journal");
+    const QString series = "series";
+    const QString journal = "journal";
     QTest::newRow("calendar") << DbInstance::CalendarUser << series << journal;
     QTest::newRow("notes") << DbInstance::NotesUser << journal << series;
     QTest::newRow("nobody") << DbInstance::NoUser << journal << series;
@@ -109,13 +108,12 @@ void ThreadedInitTest::foreignChangeMeanwhile()
     OtherProcess other;
     startPreload(DbInstance::CalendarUser);
     const QDateTime start(QDate(2011, 3, 15), QTime(12, 0));
-    QVERIFY(
-        other.calendar->addEvent(makeEvent(QStringLiteral("foreign"), start, start.addSecs(3600))));
+    QVERIFY(other.calendar->addEvent(makeEvent("foreign", start, start.addSecs(3600))));
     QVERIFY(other.storage->save());
     QCoreApplication::processEvents();
     QTRY_VERIFY(db().isEnabled());
     QTRY_COMPARE(shown(), shownInMarch + 1);
-    QVERIFY(db().calendar()->incidence(QStringLiteral("foreign")));
+    QVERIFY(db().calendar()->incidence("foreign"));
 }
 
 void ThreadedInitTest::callsMeanwhile_data()
@@ -131,32 +129,32 @@ void ThreadedInitTest::callsMeanwhile()
     QFETCH(QString, call);
     startPreload(DbInstance::CalendarUser);
     KDateTime last;
-    if (call == QLatin1String("enableDb")) {
+    if (call == "enableDb") {
         QSignalSpy enabled(&db(), &DbInstance::dbEnabled);
         db().enableDb();
         QVERIFY(db().isEnabled());
         QCOMPARE(shown(), shownInMarch);
-    } else if (call == QLatin1String("destroy")) {
+    } else if (call == "destroy") {
         DbInstance::destroy();
         QVERIFY(!db().isEnabled());
         return;
-    } else if (call == QLatin1String("recreate")) {
+    } else if (call == "recreate") {
         DbInstance::recreate();
         QVERIFY(!db().isEnabled());
         return;
-    } else if (call == QLatin1String("systemModified")) {
+    } else if (call == "systemModified") {
         db().systemModified();
-    } else if (call == QLatin1String("incidence")) {
-        QVERIFY(db().incidence(QStringLiteral("journal"), KDateTime()));
-    } else if (call == QLatin1String("storageModified")) {
+    } else if (call == "incidence") {
+        QVERIFY(db().incidence("journal", KDateTime()));
+    } else if (call == "storageModified") {
         db().storageModified(db().storage().data(), QString());
-    } else if (call == QLatin1String("updateNotebook")) {
+    } else if (call == "updateNotebook") {
         QSignalSpy saved(&db(), &DbInstance::dbSaved);
         const auto changed = mKCal::Notebook::Ptr::create(*db().storage()->defaultNotebook());
-        changed->setName(QStringLiteral("Home"));
+        changed->setName("Home");
         db().updateNotebook(changed);
         QTRY_COMPARE(saved.count(), 1);
-        QCOMPARE(db().storage()->defaultNotebook()->name(), QStringLiteral("Home"));
+        QCOMPARE(db().storage()->defaultNotebook()->name(), "Home");
     } else {
         QVERIFY(!db().loadFutureIncidences(10, &last));
     }

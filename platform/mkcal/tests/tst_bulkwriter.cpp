@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
 #include "storagefixture.h"
+#include "testtable.h"
 
 #include <mkcal/calendarimporter.h>
 #include <mkcal/incidencecomparison.h>
@@ -130,21 +131,11 @@ void TestBulkWriter::unsavedChangesStay()
 
 void TestBulkWriter::notebooksOfWritten_data()
 {
-    QTest::addColumn<QString>("uid");
-    QTest::addColumn<QString>("asked");
-    QTest::addColumn<QString>("got");
-    QTest::newRow("new") << "new"
-                         << "home"
-                         << "home";
-    QTest::newRow("stored ones stay") << "stored"
-                                      << "home"
-                                      << "work";
-    QTest::newRow("unknown notebook") << "new"
-                                      << "nowhere"
-                                      << "";
-    QTest::newRow("no notebook") << "new"
-                                 << ""
-                                 << "";
+    addColumns<QString, QString, QString>("uid", "asked", "got");
+    addRow("new", "new", "home", "home");
+    addRow("stored ones stay", "stored", "home", "work");
+    addRow("unknown notebook", "new", "nowhere", "");
+    addRow("no notebook", "new", "", "");
 }
 
 void TestBulkWriter::notebooksOfWritten()
@@ -178,16 +169,13 @@ void TestBulkWriter::timesOfImported_data()
     const QDateTime now(QDate(2026, 3, 10), QTime(12, 0), Qt::UTC);
     const QDateTime tomorrow = now.addDays(1);
 
-    QTest::newRow("in the file") << times << times << 0 << fileCreated << fileModified;
-    QTest::newRow("in the file, then a change")
-        << times << later + change << 1 << fileCreated << fileModifiedLater;
+    addRow("in the file", times, times, 0, fileCreated, fileModified);
+    addRow("in the file, then a change", times, later + change, 1, fileCreated, fileModifiedLater);
     // Whatever the file says, the other processes are told.
-    QTest::newRow("in the file, then an older one")
-        << later << times + change << 1 << fileCreated << fileModified;
-    QTest::newRow("not in the file") << QByteArray() << QByteArray() << 0 << now << now;
-    QTest::newRow("not in the file, then a change")
-        << QByteArray() << change << 1 << now << tomorrow;
-    QTest::newRow("no longer in the file") << times << change << 1 << fileCreated << tomorrow;
+    addRow("in the file, then an older one", later, times + change, 1, fileCreated, fileModified);
+    addRow("not in the file", QByteArray(), QByteArray(), 0, now, now);
+    addRow("not in the file, then a change", QByteArray(), change, 1, now, tomorrow);
+    addRow("no longer in the file", times, change, 1, fileCreated, tomorrow);
 }
 
 void TestBulkWriter::timesOfImported()

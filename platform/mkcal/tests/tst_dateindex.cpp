@@ -43,50 +43,10 @@ class TestDateIndex : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void overlap_data();
-    void overlap();
     void wallAndMoment();
     void undatedComesLast();
     void sameAsSearchingAll();
 };
-
-void TestDateIndex::overlap_data()
-{
-    QTest::addColumn<Msecs>("start");
-    QTest::addColumn<Msecs>("end");
-    QTest::addColumn<bool>("isFound");
-
-    // Asked for is the time from hour 100 to hour 110.
-    QTest::newRow("within") << 101 * hour << 102 * hour << true;
-    QTest::newRow("ends where it begins") << 90 * hour << 100 * hour << false;
-    QTest::newRow("reaches in") << 90 * hour << 100 * hour + 1 << true;
-    QTest::newRow("begins where it ends") << 110 * hour << 120 * hour << false;
-    QTest::newRow("moment at its begin") << 100 * hour << 100 * hour << true;
-    QTest::newRow("moment at its end") << 110 * hour << 110 * hour << false;
-    QTest::newRow("just two days") << 52 * hour + 1 << 100 * hour + 1 << true;
-    QTest::newRow("longer, from before") << -900 * hour << 101 * hour << true;
-    QTest::newRow("longer, over before") << -900 * hour << 100 * hour << false;
-}
-
-void TestDateIndex::overlap()
-{
-    QFETCH(Msecs, start);
-    QFETCH(Msecs, end);
-    DateIndex index;
-    const DateIndex::Entry single = entry("a", start, end);
-    index.insert(single);
-    QTEST(!found(index, 100 * hour, 110 * hour).isEmpty(), "isFound");
-
-    // The same for a series that is alive as long.
-    DateIndex::Entry series = single;
-    series.recurs = true;
-    series.first.end = start;
-    index.insert(series);
-    QCOMPARE(index.size(), 1);
-    QTEST(!found(index, 100 * hour, 110 * hour).isEmpty(), "isFound");
-    index.remove(series.incidence.data());
-    QVERIFY(found(index, 100 * hour, 110 * hour).isEmpty());
-}
 
 void TestDateIndex::wallAndMoment()
 {

@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The daskel authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
+#include "testtable.h"
+
 #include <mkcal/sqlitestorage.h>
 
 #include <QCoreApplication>
@@ -49,25 +51,20 @@ private Q_SLOTS:
 
 void TestDefaultFile::steps_data()
 {
-    QTest::addColumn<QStringList>("steps");
-    QTest::addColumn<QStringList>("answers");
+    addColumns<QStringList, QStringList>("steps", "answers");
     const QString own = QStringLiteral("data/daskel/calendar.db");
     const QString chosen = QStringLiteral("chosen/my.db");
     const QString set = setStep + chosen;
     const QString isSet = QStringLiteral("set");
     const QString refused = QStringLiteral("refused");
 
-    QTest::newRow("the person's own") << QStringList{useStep, openStep} << QStringList{own, own};
-    QTest::newRow("set") << QStringList{set, useStep, openStep}
-                         << QStringList{isSet, chosen, chosen};
-    QTest::newRow("set twice") << QStringList{set, setStep + QStringLiteral("other.db"), useStep}
-                               << QStringList{isSet, refused, chosen};
-    QTest::newRow("asked for before")
-        << QStringList{useStep, set, useStep} << QStringList{own, refused, own};
-    QTest::newRow("opened before")
-        << QStringList{openStep, set, useStep} << QStringList{own, refused, own};
-    QTest::newRow("no name") << QStringList{setStep, set, useStep}
-                             << QStringList{refused, isSet, chosen};
+    addRow("the person's own", QStringList{useStep, openStep}, QStringList{own, own});
+    addRow("set", QStringList{set, useStep, openStep}, QStringList{isSet, chosen, chosen});
+    addRow("set twice", QStringList{set, setStep + QStringLiteral("other.db"), useStep},
+           QStringList{isSet, refused, chosen});
+    addRow("asked for before", QStringList{useStep, set, useStep}, QStringList{own, refused, own});
+    addRow("opened before", QStringList{openStep, set, useStep}, QStringList{own, refused, own});
+    addRow("no name", QStringList{setStep, set, useStep}, QStringList{refused, isSet, chosen});
 }
 
 void TestDefaultFile::steps()

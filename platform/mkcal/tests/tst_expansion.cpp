@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
 #include "calendarscene.h"
+#include "testtable.h"
 
 using namespace CalendarScene;
 using mKCal::ExtendedCalendar;
@@ -229,11 +230,9 @@ void TestExpansion::timeSpecOfResults()
 
 void TestExpansion::ends_data()
 {
-    QTest::addColumn<Incidence::Ptr>("incidence");
-    QTest::addColumn<QDateTime>("start");
-    QTest::addColumn<QDateTime>("end");
+    addColumns<Incidence::Ptr, QDateTime, QDateTime>("incidence", "start", "end");
     const auto row = [](const char *name, const Incidence::Ptr &incidence, const QDateTime &start,
-                        const QDateTime &end) { QTest::newRow(name) << incidence << start << end; };
+                        const QDateTime &end) { addRow(name, incidence, start, end); };
     const auto twoDays = series("FREQ=DAILY", "2011-03-01", "2011-03-03");
     row("all-day over the short day", twoDays, at("2011-03-26", ""), at("2011-03-28", ""));
     row("all-day over the long day", twoDays, at("2011-10-30", ""), at("2011-11-01", ""));
@@ -259,13 +258,9 @@ void TestExpansion::ends()
 
 void TestExpansion::previous_data()
 {
-    QTest::addColumn<Incidence::Ptr>("incidence");
-    QTest::addColumn<QDateTime>("time");
-    QTest::addColumn<QDateTime>("expected");
+    addColumns<Incidence::Ptr, QDateTime, QDateTime>("incidence", "time", "expected");
     const auto row = [](const char *name, const Incidence::Ptr &incidence, const QDateTime &time,
-                        const QDateTime &expected) {
-        QTest::newRow(name) << incidence << time << expected;
-    };
+                        const QDateTime &expected) { addRow(name, incidence, time, expected); };
     const auto daily = meeting("FREQ=DAILY", "2011-03-20T10:00");
     daily->recurrence()->addExDateTime(at("2011-03-24T10:00"));
     const auto several = meeting("FREQ=DAILY;COUNT=1");

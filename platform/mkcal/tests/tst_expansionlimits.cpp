@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
 #include "calendarscene.h"
+#include "testtable.h"
 
 using namespace CalendarScene;
 using mKCal::ExtendedCalendar;
@@ -27,14 +28,12 @@ private:
 
 void TestExpansionLimits::cap_data()
 {
-    QTest::addColumn<int>("cap");
-    QTest::addColumn<int>("expected");
-    QTest::addColumn<bool>("isHit");
+    addColumns<int, int, bool>("cap", "expected", "isHit");
     // Ten start in the window, two are running when it begins.
-    QTest::newRow("enough") << 11 << 12 << false;
-    QTest::newRow("just reached") << 10 << 12 << true;
-    QTest::newRow("cut") << 3 << 5 << true;
-    QTest::newRow("none") << 0 << 2 << true;
+    addRow("enough", 11, 12, false);
+    addRow("just reached", 10, 12, true);
+    addRow("cut", 3, 5, true);
+    addRow("none", 0, 2, true);
 }
 
 void TestExpansionLimits::cap()
@@ -58,11 +57,9 @@ void TestExpansionLimits::cap()
 
 void TestExpansionLimits::absurdRules_data()
 {
-    QTest::addColumn<QString>("rule");
-    QTest::addColumn<QString>("start");
-    QTest::addColumn<int>("inMay2011");
+    addColumns<QString, QString, int>("rule", "start", "inMay2011");
     const auto row = [](const QString &rule, const QString &start, int inMay2011) {
-        QTest::newRow(qPrintable(rule)) << rule << start << inMay2011;
+        addRow(qPrintable(rule), rule, start, inMay2011);
     };
     row("FREQ=SECONDLY", "2011-05-01T00:00", 1000);
     row("FREQ=MINUTELY", "1961-05-01T00:00", 1000);
@@ -96,14 +93,9 @@ void TestExpansionLimits::absurdRules()
 
 void TestExpansionLimits::pieces_data()
 {
-    QTest::addColumn<QString>("start");
-    QTest::addColumn<QString>("end");
-    QTest::addColumn<bool>("merge");
-    QTest::addColumn<QStringList>("expected");
+    addColumns<QString, QString, bool, QStringList>("start", "end", "merge", "expected");
     const auto row = [](const char *name, const QString &start, const QString &end, bool merge,
-                        const QStringList &expected) {
-        QTest::newRow(name) << start << end << merge << expected;
-    };
+                        const QStringList &expected) { addRow(name, start, end, merge, expected); };
     row("cut at the start of the window", "2011-04-28T12:00", "2011-05-02T12:00", false,
         {"a 05-01 00:00 > 05-02 00:00", "a 05-02 00:00 > 12:00"});
     row("ends at midnight", "2011-05-02T12:00", "2011-05-04T00:00", false,

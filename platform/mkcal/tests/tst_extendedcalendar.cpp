@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
 #include "calendarscene.h"
+#include "testtable.h"
 
 using namespace CalendarScene;
 using mKCal::ExtendedCalendar;
@@ -109,12 +110,11 @@ void TestExtendedCalendar::cleanup()
 
 void TestExtendedCalendar::days_data()
 {
-    QTest::addColumn<KCalCore::Incidence::Ptr>("incidence");
-    QTest::addColumn<QList<int>>("daysOfMay");
+    addColumns<KCalCore::Incidence::Ptr, QList<int>>("incidence", "daysOfMay");
 
     using Pointer = KCalCore::Incidence::Ptr;
     const auto row = [](const char *name, const Pointer &incidence, const QList<int> &days) {
-        QTest::newRow(name) << incidence << days;
+        addRow(name, incidence, days);
     };
     row("all-day, one day", newEvent("a", "2011-05-03", "2011-05-04"), {3});
     row("all-day, two days", newEvent("a", "2011-05-03", "2011-05-05"), {3, 4});
@@ -291,23 +291,18 @@ void TestExtendedCalendar::timeZoneChange()
 
 void TestExtendedCalendar::lookUp_data()
 {
-    QTest::addColumn<KDateTime>("recurrenceId");
-    QTest::addColumn<bool>("isAllDay");
-    QTest::addColumn<bool>("isFound");
+    addColumns<KDateTime, bool, bool>("recurrenceId", "isAllDay", "isFound");
 
-    QTest::newRow("as it is") << KDateTime(at("2011-05-16T10:00")) << false << true;
-    QTest::newRow("in UTC") << KDateTime(at("2011-05-16T07:00", "UTC")) << false << true;
-    QTest::newRow("milliseconds do not count")
-        << KDateTime(at("2011-05-16T10:00").addMSecs(1)) << false << true;
-    QTest::newRow("another second")
-        << KDateTime(at("2011-05-16T10:00").addSecs(1)) << false << false;
-    QTest::newRow("all-day, a date") << KDateTime(QDate(2011, 5, 16)) << true << true;
-    QTest::newRow("all-day, midnight here") << KDateTime(at("2011-05-16", "")) << true << true;
-    QTest::newRow("all-day, midnight elsewhere")
-        << KDateTime(at("2011-05-16", "America/New_York")) << true << true;
-    QTest::newRow("all-day, midnight as UTC")
-        << KDateTime(at("2011-05-15T21:00", "UTC")) << true << true;
-    QTest::newRow("all-day, another date") << KDateTime(QDate(2011, 5, 17)) << true << false;
+    addRow("as it is", KDateTime(at("2011-05-16T10:00")), false, true);
+    addRow("in UTC", KDateTime(at("2011-05-16T07:00", "UTC")), false, true);
+    addRow("milliseconds do not count", KDateTime(at("2011-05-16T10:00").addMSecs(1)), false, true);
+    addRow("another second", KDateTime(at("2011-05-16T10:00").addSecs(1)), false, false);
+    addRow("all-day, a date", KDateTime(QDate(2011, 5, 16)), true, true);
+    addRow("all-day, midnight here", KDateTime(at("2011-05-16", "")), true, true);
+    addRow("all-day, midnight elsewhere", KDateTime(at("2011-05-16", "America/New_York")), true,
+           true);
+    addRow("all-day, midnight as UTC", KDateTime(at("2011-05-15T21:00", "UTC")), true, true);
+    addRow("all-day, another date", KDateTime(QDate(2011, 5, 17)), true, false);
 }
 
 void TestExtendedCalendar::lookUp()

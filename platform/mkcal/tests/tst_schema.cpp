@@ -5,6 +5,7 @@
 #include "sqlite/connection.h"
 #include "sqlite/schema.h"
 #include "sqlite/statement.h"
+#include "testtable.h"
 
 #include <QCryptographicHash>
 #include <QTemporaryDir>
@@ -164,21 +165,17 @@ void TestSchema::failedUpgradeLeavesTheFile()
 
 void TestSchema::refuses_data()
 {
-    QTest::addColumn<QByteArray>("sql");
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<int>("code");
-    QTest::addColumn<QString>("words");
+    addColumns<QByteArray, QByteArray, int, QString>("sql", "bytes", "code", "words");
 
-    QTest::newRow("newer version")
-        << QByteArray("PRAGMA journal_mode = WAL; CREATE TABLE Meta(key);"
+    addRow("newer version",
+           QByteArray("PRAGMA journal_mode = WAL; CREATE TABLE Meta(key);"
                       " PRAGMA application_id = 1685285740;"
-                      " PRAGMA user_version = 99")
-        << QByteArray() << SQLITE_MISMATCH << QStringLiteral("newer version");
-    QTest::newRow("database of another program")
-        << QByteArray("CREATE TABLE songs(name)") << QByteArray() << SQLITE_NOTADB
-        << QStringLiteral("not a calendar database");
-    QTest::newRow("no database") << QByteArray() << QByteArray("Dear diary, ").repeated(1000)
-                                 << SQLITE_NOTADB << QStringLiteral("not a database");
+                      " PRAGMA user_version = 99"),
+           QByteArray(), SQLITE_MISMATCH, QStringLiteral("newer version"));
+    addRow("database of another program", QByteArray("CREATE TABLE songs(name)"), QByteArray(),
+           SQLITE_NOTADB, QStringLiteral("not a calendar database"));
+    addRow("no database", QByteArray(), QByteArray("Dear diary, ").repeated(1000), SQLITE_NOTADB,
+           QStringLiteral("not a database"));
 }
 
 void TestSchema::refuses()
@@ -225,11 +222,10 @@ void TestSchema::manyProcessesMakeItAtOnce()
 
 void TestSchema::findsByIndex_data()
 {
-    QTest::addColumn<QByteArray>("condition");
-    QTest::addColumn<QString>("index");
+    addColumns<QByteArray, QString>("condition", "index");
 
     const auto row = [](const char *name, const char *condition, const char *index) {
-        QTest::newRow(name) << QByteArray(condition) << QString::fromLatin1(index);
+        addRow(name, QByteArray(condition), QString::fromLatin1(index));
     };
     row("short ones of a range", "state = 0 AND span = 0 AND start >= ? AND start < ? AND end > ?",
         "ComponentsSpan");

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
 #include "calendarscene.h"
+#include "testtable.h"
 
 using namespace CalendarScene;
 using mKCal::ExtendedCalendar;
@@ -57,7 +58,7 @@ QStringList times(const ExtendedCalendar &calendar)
 /// The first one is the series.
 void row(const char *name, const Family &family, const KDateTime &cut, int later)
 {
-    QTest::newRow(name) << family << cut << later;
+    addRow(name, family, cut, later);
 }
 
 void addRuleRows()
@@ -191,9 +192,7 @@ Incidence::Ptr TestSeries::add(const Family &family)
 
 void TestSeries::split_data()
 {
-    QTest::addColumn<Family>("family");
-    QTest::addColumn<KDateTime>("cut");
-    QTest::addColumn<int>("later");
+    addColumns<Family, KDateTime, int>("family", "cut", "later");
     addRuleRows();
     addClockRows();
     addDateRows();
@@ -233,13 +232,9 @@ void TestSeries::splitParts()
 
 void TestSeries::splitRefused_data()
 {
-    QTest::addColumn<Family>("family");
-    QTest::addColumn<KDateTime>("cut");
-    QTest::addColumn<bool>("isAdded");
+    addColumns<Family, KDateTime, bool>("family", "cut", "isAdded");
     const auto row = [](const char *name, const Incidence::Ptr &series, const KDateTime &cut,
-                        bool isAdded = true) {
-        QTest::newRow(name) << Family{series} << cut << isAdded;
-    };
+                        bool isAdded = true) { addRow(name, Family{series}, cut, isAdded); };
     const QString weekly("FREQ=WEEKLY;COUNT=5");
     row("the first", meeting(weekly), KDateTime(at("2011-05-02T10:00")));
     row("no occurrence", meeting(weekly), KDateTime(at("2011-05-03T10:00")));
@@ -267,13 +262,9 @@ void TestSeries::splitRefused()
 
 void TestSeries::dissociate_data()
 {
-    QTest::addColumn<Family>("family");
-    QTest::addColumn<KDateTime>("occurrence");
-    QTest::addColumn<QString>("start");
+    addColumns<Family, KDateTime, QString>("family", "occurrence", "start");
     const auto row = [](const char *name, const Family &family, const KDateTime &occurrence,
-                        const QString &start) {
-        QTest::newRow(name) << family << occurrence << start;
-    };
+                        const QString &start) { addRow(name, family, occurrence, start); };
     const auto daily = [] { return Family{meeting("FREQ=DAILY;COUNT=9", "2011-03-24T03:30")}; };
     row("in mid-series", daily(), KDateTime(at("2011-03-25T03:30")), "2011-03-25T03:30");
     row("asked for in UTC", daily(), KDateTime(at("2011-03-25T01:30", "UTC")), "2011-03-25T03:30");
@@ -313,9 +304,9 @@ void TestSeries::dissociate()
 void TestSeries::dissociateException_data()
 {
     QTest::addColumn<bool>("andLater");
-    QTest::newRow("alone") << false;
+    addRow("alone", false);
     // What counts from an occurrence on goes on counting when that one is taken out.
-    QTest::newRow("with those that follow") << true;
+    addRow("with those that follow", true);
 }
 
 void TestSeries::dissociateException()

@@ -3,6 +3,7 @@
 
 #include "sqlite/connection.h"
 #include "sqlite/statement.h"
+#include "testtable.h"
 
 #include <QTemporaryDir>
 #include <QtTest>
@@ -19,13 +20,8 @@ private Q_SLOTS:
     void cleanup();
     void bindsAndReads_data();
     void bindsAndReads();
-    void namesWhatCannotBeOpened_data();
-    void namesWhatCannotBeOpened();
     void transactionIsUndoneUnlessCommitted();
-    void lockedDatabase();
     void fullDisk();
-    void noticesForeignCommits();
-    void noticesThatTheFileIsGone();
     void readsWithoutWriting();
 
 private:
@@ -60,16 +56,15 @@ Q_DECLARE_METATYPE(mKCal::SqlValue)
 
 void TestSqliteConnection::bindsAndReads_data()
 {
-    QTest::addColumn<SqlValue>("value");
-    QTest::addColumn<QString>("type");
-    QTest::newRow("null") << SqlValue() << "null";
-    QTest::newRow("null text") << SqlValue(QString()) << "null";
-    QTest::newRow("empty text") << SqlValue(QStringLiteral("")) << "text";
-    QTest::newRow("text") << SqlValue(QStringLiteral("ä 🎂")) << "text";
-    QTest::newRow("integer") << SqlValue(std::numeric_limits<qint64>::min()) << "integer";
-    QTest::newRow("real") << SqlValue(0.1) << "real";
-    QTest::newRow("bytes") << SqlValue(QByteArray("\0\xff", 2)) << "blob";
-    QTest::newRow("no bytes") << SqlValue(QByteArray("")) << "blob";
+    addColumns<SqlValue, QString>("value", "type");
+    addRow("null", SqlValue(), "null");
+    addRow("null text", SqlValue(QString()), "null");
+    addRow("empty text", SqlValue(QStringLiteral("")), "text");
+    addRow("text", SqlValue(QStringLiteral("ä 🎂")), "text");
+    addRow("integer", SqlValue(std::numeric_limits<qint64>::min()), "integer");
+    addRow("real", SqlValue(0.1), "real");
+    addRow("bytes", SqlValue(QByteArray("\0\xff", 2)), "blob");
+    addRow("no bytes", SqlValue(QByteArray("")), "blob");
 }
 
 void TestSqliteConnection::bindsAndReads()
@@ -98,33 +93,6 @@ void TestSqliteConnection::bindsAndReads()
     }
 }
 
-void TestSqliteConnection::namesWhatCannotBeOpened_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<int>("mode");
-    QTest::addColumn<int>("code");
-    QTest::newRow("a folder") << "folder" << int(Connection::ReadWriteCreate) << SQLITE_CANTOPEN;
-    QTest::newRow("under a file") << "calendar.db/x.db" << int(Connection::ReadWriteCreate)
-                                  << SQLITE_CANTOPEN;
-    QTest::newRow("missing, to be read")
-        << "none.db" << int(Connection::ReadOnly) << SQLITE_CANTOPEN;
-}
-
-void TestSqliteConnection::namesWhatCannotBeOpened()
-{
-    QFETCH(QString, name);
-    QFETCH(int, mode);
-    QVERIFY(QDir(m_folder->path()).mkdir(QStringLiteral("folder")));
-    const QString file = m_folder->filePath(name);
-    Connection connection;
-    QVERIFY(!connection.open(file, Connection::Mode(mode)));
-    QVERIFY(!connection.isOpen());
-    QTEST(connection.lastError().primary, "code");
-    QVERIFY(connection.lastError().message.startsWith(file));
-    QVERIFY(!connection.execute("SELECT 1"));
-    QVERIFY(!Statement(connection, "SELECT 1").run());
-}
-
 void TestSqliteConnection::transactionIsUndoneUnlessCommitted()
 {
     {
@@ -138,19 +106,6 @@ void TestSqliteConnection::transactionIsUndoneUnlessCommitted()
     QVERIFY(transaction.commit());
     QVERIFY(!m_connection.inTransaction());
     QCOMPARE(rows(m_connection), 1);
-}
-
-void TestSqliteConnection::lockedDatabase()
-{
-    Connection other;
-    QVERIFY(other.open(m_file));
-    const Transaction theirs(other);
-    QVERIFY(theirs.isActive());
-    sqlite3_busy_timeout(m_connection.handle(), 0);
-    Transaction ours(m_connection);
-    QVERIFY(!ours.isActive());
-    QVERIFY(!ours.commit());
-    QCOMPARE(m_connection.errorCodes(), QList<int>{SQLITE_BUSY});
 }
 
 void TestSqliteConnection::fullDisk()
@@ -175,24 +130,6 @@ void TestSqliteConnection::fullDisk()
     QVERIFY(m_connection.execute("PRAGMA max_page_count = 1000"));
     QVERIFY(insert.run());
     QVERIFY(!insert.failed());
-}
-
-void TestSqliteConnection::noticesForeignCommits()
-{
-    Connection other;
-    QVERIFY(other.open(m_file));
-    const qint64 before = m_connection.dataVersion();
-    QVERIFY(m_connection.execute("INSERT INTO T VALUES (1)"));
-    QCOMPARE(m_connection.dataVersion(), before);
-    QVERIFY(other.execute("INSERT INTO T VALUES (2)"));
-    QVERIFY(m_connection.dataVersion() != before);
-}
-
-void TestSqliteConnection::noticesThatTheFileIsGone()
-{
-    QVERIFY(!m_connection.hasMoved());
-    QVERIFY(QFile::rename(m_file, m_file + QLatin1String(".away")));
-    QVERIFY(m_connection.hasMoved());
 }
 
 void TestSqliteConnection::readsWithoutWriting()

@@ -8,32 +8,32 @@ using namespace Make;
 
 namespace
 {
-using Load = std::function<bool(OpenStorage &)>;
+using Load = std::function<bool(SqliteStorage &)>;
 
 /// What is stored before each load: one of each kind that a load may or may not bring.
 KCalCore::Incidence::List stock()
 {
-    const auto series = daily(QStringLiteral("series"), at(2026, 3, 1, 9), 20);
-    const auto oldSeries = daily(QStringLiteral("oldSeries"), at(2025, 1, 1, 9), 5);
-    const auto done = todo(QStringLiteral("done"), at(2026, 3, 11, 12));
+    const auto series = daily("series", at(2026, 3, 1, 9), 20);
+    const auto oldSeries = daily("oldSeries", at(2025, 1, 1, 9), 5);
+    const auto done = todo("done", at(2026, 3, 11, 12));
     done->setCompleted(at(2026, 3, 9, 8));
-    const auto doneEarlier = todo(QStringLiteral("doneEarlier"), at(2026, 2, 1, 12));
+    const auto doneEarlier = todo("doneEarlier", at(2026, 2, 1, 12));
     doneEarlier->setCompleted(at(2026, 2, 1, 8));
-    const auto longTrip = meeting(QStringLiteral("trip"), at(2026, 2, 1, 9), 60 * 24 * 60);
-    return {meeting(QStringLiteral("today"), at(2026, 3, 10, 15)),
-            meeting(QStringLiteral("tomorrow"), at(2026, 3, 11, 9)),
-            meeting(QStringLiteral("nextMonth"), at(2026, 4, 10, 9)),
-            meeting(QStringLiteral("lastYear"), at(2025, 3, 10, 9)),
+    const auto longTrip = meeting("trip", at(2026, 2, 1, 9), 60 * 24 * 60);
+    return {meeting("today", at(2026, 3, 10, 15)),
+            meeting("tomorrow", at(2026, 3, 11, 9)),
+            meeting("nextMonth", at(2026, 4, 10, 9)),
+            meeting("lastYear", at(2025, 3, 10, 9)),
             longTrip,
-            allDay(QStringLiteral("holiday"), QDate(2026, 3, 12), 2),
+            allDay("holiday", QDate(2026, 3, 12), 2),
             series,
             exception(series, at(2026, 3, 4, 9), at(2026, 5, 4, 11)),
             oldSeries,
-            todo(QStringLiteral("someday")),
-            todo(QStringLiteral("due"), at(2026, 3, 11, 18)),
+            todo("someday"),
+            todo("due", at(2026, 3, 11, 18)),
             done,
             doneEarlier,
-            journal(QStringLiteral("diary"), at(2026, 3, 2, 20))};
+            journal("diary", at(2026, 3, 2, 20))};
 }
 } // namespace
 
@@ -84,46 +84,45 @@ void TestStorageLoad::loadBringsWhatItSays_data()
     QTest::addColumn<Load>("load");
     QTest::addColumn<QStringList>("uids");
 
-    const QStringList series{QStringLiteral("series"), QStringLiteral("series/20260304")};
+    const auto row = [](const char *name, const Load &load, const QStringList &uids) {
+        QTest::newRow(name) << load << uids;
+    };
+    const QStringList series{"series", "series/20260304"};
     const QStringList all{"diary",    "done",      "doneEarlier", "due",    "holiday",
                           "lastYear", "nextMonth", "oldSeries",   "series", "series/20260304",
                           "someday",  "today",     "tomorrow",    "trip"};
-    QTest::newRow("everything") << Load([](OpenStorage &s) { return s.storage->load(); }) << all;
-    QTest::newRow("one day") << Load([](OpenStorage &s) {
-        return s.storage->load(QDate(2026, 4, 10));
-    }) << QStringList{"nextMonth"};
-    QTest::newRow("days, with what began long before") << Load([](OpenStorage &s) {
-        return s.storage->load(QDate(2026, 3, 10), QDate(2026, 3, 13));
-    }) << QStringList{"done", "due", "holiday", "today", "tomorrow", "trip"};
-    QTest::newRow("no days") << Load([](OpenStorage &s) {
-        return s.storage->load(QDate(2026, 3, 13), QDate(2026, 3, 10));
-    }) << QStringList{};
-    QTest::newRow("recurring") << Load([](OpenStorage &s) {
-        return s.storage->loadRecurringIncidences();
-    }) << (QStringList{"oldSeries"} + series);
-    QTest::newRow("recurring, alive") << Load([](OpenStorage &s) {
-        return s.storage->loadRecurringIncidences(QDate(2026, 3, 10), QDate(2026, 3, 11));
-    }) << series;
-    QTest::newRow("recurring, only the moved exception is alive") << Load([](OpenStorage &s) {
-        return s.storage->loadRecurringIncidences(QDate(2026, 5, 4), QDate(2026, 5, 4));
-    }) << series;
-    QTest::newRow("open to-dos") << Load([](OpenStorage &s) {
-        return s.storage->loadUncompletedTodos();
-    }) << QStringList{"due", "someday"};
-    QTest::newRow("journals") << Load([](OpenStorage &s) { return s.storage->loadJournals(); })
-                              << QStringList{"diary"};
-    QTest::newRow("notebook") << Load([](OpenStorage &s) {
-        return s.storage->loadNotebookIncidences(QStringLiteral("work"));
-    }) << all;
-    QTest::newRow("unknown notebook") << Load([](OpenStorage &s) {
-        return s.storage->loadNotebookIncidences(QStringLiteral("other"));
-    }) << QStringList{};
-    QTest::newRow("one incidence")
-        << Load([](OpenStorage &s) { return s.storage->load(QStringLiteral("today")); })
-        << QStringList{"today"};
-    QTest::newRow("one series") << Load([](OpenStorage &s) {
-        return s.storage->load(QStringLiteral("series"));
-    }) << series;
+    row(
+        "everything", [](SqliteStorage &s) { return s.load(); }, all);
+    row("one day", [](SqliteStorage &s) { return s.load(QDate(2026, 4, 10)); }, {"nextMonth"});
+    row("days, with what began long before",
+        [](SqliteStorage &s) { return s.load(QDate(2026, 3, 10), QDate(2026, 3, 13)); },
+        {"done", "due", "holiday", "today", "tomorrow", "trip"});
+    row("no days", [](SqliteStorage &s) { return s.load(QDate(2026, 3, 13), QDate(2026, 3, 10)); },
+        {});
+    row(
+        "recurring", [](SqliteStorage &s) { return s.loadRecurringIncidences(); },
+        QStringList{"oldSeries"} + series);
+    row(
+        "recurring, alive",
+        [](SqliteStorage &s) {
+            return s.loadRecurringIncidences(QDate(2026, 3, 10), QDate(2026, 3, 11));
+        },
+        series);
+    row(
+        "recurring, only the moved exception is alive",
+        [](SqliteStorage &s) {
+            return s.loadRecurringIncidences(QDate(2026, 5, 4), QDate(2026, 5, 4));
+        },
+        series);
+    row("open to-dos", [](SqliteStorage &s) { return s.loadUncompletedTodos(); },
+        {"due", "someday"});
+    row("journals", [](SqliteStorage &s) { return s.loadJournals(); }, {"diary"});
+    row(
+        "notebook", [](SqliteStorage &s) { return s.loadNotebookIncidences("work"); }, all);
+    row("unknown notebook", [](SqliteStorage &s) { return s.loadNotebookIncidences("other"); }, {});
+    row("one incidence", [](SqliteStorage &s) { return s.load("today"); }, {"today"});
+    row(
+        "one series", [](SqliteStorage &s) { return s.load("series"); }, series);
 }
 
 void TestStorageLoad::loadBringsWhatItSays()
@@ -132,13 +131,13 @@ void TestStorageLoad::loadBringsWhatItSays()
     QFETCH(QStringList, uids);
     uids.sort();
     const auto reader = m_fixture->open();
-    QVERIFY(load(*reader));
+    QVERIFY(load(*reader->storage));
     QCOMPARE(reader->uids(), uids);
     QVERIFY(!reader->storage->hasUnsavedChanges());
     QCOMPARE(reader->notices.modified, 0);
 
     const int reads = reader->reads();
-    QVERIFY(load(*reader));
+    QVERIFY(load(*reader->storage));
     QCOMPARE(reader->reads(), reads);
     QCOMPARE(reader->uids(), uids);
 }
@@ -147,13 +146,13 @@ void TestStorageLoad::onlyMissingDaysAreRead()
 {
     const auto reader = m_fixture->open();
     QVERIFY(reader->storage->load(QDate(2026, 3, 10), QDate(2026, 3, 13)));
-    const KCalCore::Incidence::Ptr before = reader->incidence(QStringLiteral("today"));
+    const KCalCore::Incidence::Ptr before = reader->incidence("today");
     const int readsOfOneRange = reader->reads();
     // A month around it: two gaps.
     QVERIFY(reader->storage->load(QDate(2026, 3, 1), QDate(2026, 4, 30)));
     QCOMPARE(reader->reads(), 3 * readsOfOneRange);
-    QCOMPARE(reader->incidence(QStringLiteral("today")), before);
-    QVERIFY(reader->incidence(QStringLiteral("nextMonth")));
+    QCOMPARE(reader->incidence("today"), before);
+    QVERIFY(reader->incidence("nextMonth"));
     QVERIFY(reader->storage->load(QDate(2026, 3, 5), QDate(2026, 4, 20)));
     QCOMPARE(reader->reads(), 3 * readsOfOneRange);
 }
@@ -162,17 +161,14 @@ void TestStorageLoad::zonesAndFloatingTimesAreInTheirDays_data()
 {
     QTest::addColumn<KCalCore::Event::Ptr>("stored");
     const QDate day(2026, 7, 1);
-    QTest::newRow("floating, early") << meeting(QStringLiteral("x"), QDateTime(day, QTime(0, 5)));
-    QTest::newRow("floating, late")
-        << meeting(QStringLiteral("x"), QDateTime(day, QTime(23, 30)), 5);
-    QTest::newRow("all-day") << allDay(QStringLiteral("x"), day);
+    QTest::newRow("floating, early") << meeting("x", QDateTime(day, QTime(0, 5)));
+    QTest::newRow("floating, late") << meeting("x", QDateTime(day, QTime(23, 30)), 5);
+    QTest::newRow("all-day") << allDay("x", day);
     QTest::newRow("in Auckland") << meeting(
-        QStringLiteral("x"), QDateTime(day.addDays(1), QTime(8, 0), QTimeZone("Pacific/Auckland")),
-        30);
+        "x", QDateTime(day.addDays(1), QTime(8, 0), QTimeZone("Pacific/Auckland")), 30);
     QTest::newRow("in Honolulu") << meeting(
-        QStringLiteral("x"),
-        QDateTime(day.addDays(-1), QTime(12, 0), QTimeZone("Pacific/Honolulu")), 30);
-    QTest::newRow("over midnight") << meeting(QStringLiteral("x"), at(2026, 6, 30, 23, 30));
+        "x", QDateTime(day.addDays(-1), QTime(12, 0), QTimeZone("Pacific/Honolulu")), 30);
+    QTest::newRow("over midnight") << meeting("x", at(2026, 6, 30, 23, 30));
 }
 
 void TestStorageLoad::zonesAndFloatingTimesAreInTheirDays()
@@ -181,78 +177,70 @@ void TestStorageLoad::zonesAndFloatingTimesAreInTheirDays()
     QVERIFY(m_fixture->store({stored}));
     const auto reader = m_fixture->open();
     QVERIFY(reader->storage->load(QDate(2026, 7, 1)));
-    QVERIFY(reader->incidence(QStringLiteral("x")));
+    QVERIFY(reader->incidence("x"));
 }
 
 void TestStorageLoad::exceptionsComeWithTheirSeries_data()
 {
     QTest::addColumn<Load>("load");
-    QTest::newRow("by its recurrence identifier") << Load([](OpenStorage &s) {
-        return s.storage->load(QStringLiteral("series"), KDateTime(at(2026, 3, 4, 9)));
-    });
-    QTest::newRow("by search") << Load([](OpenStorage &s) {
-        return s.storage->search(QStringLiteral("moved elsewhere")).size() == 1;
-    });
-    QTest::newRow("by attendee") << Load([](OpenStorage &s) {
-        return s.storage->loadByAttendee(QStringLiteral("ANNA@example.org"));
-    });
-    QTest::newRow("by creation") << Load([](OpenStorage &s) {
-        return s.storage->loadCreatedSince(QDateTime(QDate(2026, 3, 20), QTime(0, 0), Qt::UTC));
-    });
-    QTest::newRow("by modification") << Load([](OpenStorage &s) {
-        return s.storage->loadModifiedSince(QDateTime(QDate(2026, 3, 20), QTime(0, 0), Qt::UTC));
-    });
+    const auto row = [](const char *name, const Load &load) { QTest::newRow(name) << load; };
+    static const QDateTime since(QDate(2026, 3, 20), QTime(0, 0), Qt::UTC);
+    row("by its recurrence identifier",
+        [](SqliteStorage &s) { return s.load("series", KDateTime(at(2026, 3, 4, 9))); });
+    row("by search", [](SqliteStorage &s) { return s.search("moved elsewhere").size() == 1; });
+    row("by attendee", [](SqliteStorage &s) { return s.loadByAttendee("ANNA@example.org"); });
+    row("by creation", [](SqliteStorage &s) { return s.loadCreatedSince(since); });
+    row("by modification", [](SqliteStorage &s) { return s.loadModifiedSince(since); });
 }
 
 void TestStorageLoad::exceptionsComeWithTheirSeries()
 {
     QFETCH(Load, load);
-    const auto series = daily(QStringLiteral("series"), at(2026, 3, 1, 9), 20);
+    const auto series = daily("series", at(2026, 3, 1, 9), 20);
     const auto moved = exception(series, at(2026, 3, 7, 9), at(2026, 3, 7, 15));
-    moved->setSummary(QStringLiteral("Moved elsewhere"), false);
-    moved->addAttendee(
-        KCalCore::Attendee(QStringLiteral("Anna"), QStringLiteral("anna@example.org")));
+    moved->setSummary("Moved elsewhere", false);
+    moved->addAttendee(KCalCore::Attendee("Anna", "anna@example.org"));
     m_fixture->now = QDateTime(QDate(2026, 3, 21), QTime(12, 0), Qt::UTC);
     QVERIFY(m_fixture->store({moved}));
 
     const auto reader = m_fixture->open();
-    QVERIFY(load(*reader));
+    QVERIFY(load(*reader->storage));
     QCOMPARE(reader->uids(), QStringList({"series", "series/20260304", "series/20260307"}));
 }
 
 void TestStorageLoad::whatASeriesBecameComesWithItsExceptions()
 {
-    QVERIFY(m_fixture->store({meeting(QStringLiteral("series"), at(2026, 3, 1, 9))}));
+    QVERIFY(m_fixture->store({meeting("series", at(2026, 3, 1, 9))}));
     const auto reader = m_fixture->open();
     QVERIFY(reader->storage->loadRecurringIncidences());
     QCOMPARE(reader->uids(), QStringList({"oldSeries", "series", "series/20260304"}));
-    QVERIFY(!reader->incidence(QStringLiteral("series"))->recurs());
+    QVERIFY(!reader->incidence("series")->recurs());
 }
 
 void TestStorageLoad::unsavedDeletionIsNotUndoneByALoad()
 {
     const auto reader = m_fixture->open();
     QVERIFY(reader->storage->load(QDate(2026, 3, 10)));
-    QVERIFY(reader->calendar->deleteIncidence(reader->incidence(QStringLiteral("today"))));
+    QVERIFY(reader->calendar->deleteIncidence(reader->incidence("today")));
     QVERIFY(reader->storage->loadRecurringIncidences());
-    QVERIFY(reader->calendar->deleteIncidence(reader->incidence(QStringLiteral("series"))));
+    QVERIFY(reader->calendar->deleteIncidence(reader->incidence("series")));
     QVERIFY(reader->storage->load());
-    QVERIFY(!reader->incidence(QStringLiteral("today")));
-    QVERIFY(!reader->incidence(QStringLiteral("series")));
-    QVERIFY(!reader->incidence(QStringLiteral("series"), KDateTime(at(2026, 3, 4, 9))));
+    QVERIFY(!reader->incidence("today"));
+    QVERIFY(!reader->incidence("series"));
+    QVERIFY(!reader->incidence("series", KDateTime(at(2026, 3, 4, 9))));
     QVERIFY(reader->storage->save());
-    QVERIFY(!m_fixture->open()->storage->search(QStringLiteral("tomorrow")).isEmpty());
-    QVERIFY(m_fixture->open()->storage->search(QStringLiteral("series")).size() == 1);
+    QVERIFY(!m_fixture->open()->storage->search("tomorrow").isEmpty());
+    QVERIFY(m_fixture->open()->storage->search("series").size() == 1);
 }
 
 void TestStorageLoad::unsavedChangeIsNotOverwrittenByALoad()
 {
     const auto reader = m_fixture->open();
     QVERIFY(reader->storage->load(QDate(2026, 3, 10)));
-    reader->incidence(QStringLiteral("today"))->setSummary(QStringLiteral("edited"), false);
+    reader->incidence("today")->setSummary("edited", false);
     QVERIFY(reader->storage->hasUnsavedChanges());
     QVERIFY(reader->storage->load());
-    QCOMPARE(reader->incidence(QStringLiteral("today"))->summary(), QStringLiteral("edited"));
+    QCOMPARE(reader->incidence("today")->summary(), "edited");
 }
 
 void TestStorageLoad::futureIncidencesInPages()
@@ -272,7 +260,7 @@ void TestStorageLoad::futureIncidencesInPages()
 
 void TestStorageLoad::completedTodosInPages()
 {
-    const auto sameSecond = todo(QStringLiteral("sameSecond"), at(2026, 3, 1, 9));
+    const auto sameSecond = todo("sameSecond", at(2026, 3, 1, 9));
     sameSecond->setCompleted(at(2026, 3, 9, 8));
     QVERIFY(m_fixture->store({sameSecond}));
     const auto reader = m_fixture->open();
@@ -280,7 +268,7 @@ void TestStorageLoad::completedTodosInPages()
     QCOMPARE(reader->storage->loadCompletedTodos(1, &last), 2);
     QCOMPARE(reader->uids(), QStringList({"done", "sameSecond"}));
     QCOMPARE(reader->storage->loadCompletedTodos(1, &last), 1);
-    QVERIFY(reader->incidence(QStringLiteral("doneEarlier")));
+    QVERIFY(reader->incidence("doneEarlier"));
     QCOMPARE(reader->storage->loadCompletedTodos(1, &last), 0);
 }
 
@@ -289,12 +277,12 @@ void TestStorageLoad::searchFindsAnyCase_data()
     QTest::addColumn<QString>("text");
     QTest::addColumn<int>("limit");
     QTest::addColumn<QStringList>("uids");
-    QTest::newRow("newest first") << QStringLiteral("äLäm") << 0 << QStringList{"late", "early"};
-    QTest::newRow("limited") << QStringLiteral("äläm") << 1 << QStringList{"late"};
-    QTest::newRow("location") << QStringLiteral("KATU") << 0 << QStringList{"early"};
-    QTest::newRow("description") << QStringLiteral("100%_") << 0 << QStringList{"late"};
-    QTest::newRow("category") << QStringLiteral("perhe") << 0 << QStringList{"late"};
-    QTest::newRow("nothing") << QStringLiteral("nowhere") << 0 << QStringList{};
+    QTest::newRow("newest first") << "äLäm" << 0 << QStringList{"late", "early"};
+    QTest::newRow("limited") << "äläm" << 1 << QStringList{"late"};
+    QTest::newRow("location") << "KATU" << 0 << QStringList{"early"};
+    QTest::newRow("description") << "100%_" << 0 << QStringList{"late"};
+    QTest::newRow("category") << "perhe" << 0 << QStringList{"late"};
+    QTest::newRow("nothing") << "nowhere" << 0 << QStringList{};
 }
 
 void TestStorageLoad::searchFindsAnyCase()
@@ -302,13 +290,13 @@ void TestStorageLoad::searchFindsAnyCase()
     QFETCH(QString, text);
     QFETCH(int, limit);
     QFETCH(QStringList, uids);
-    const auto early = meeting(QStringLiteral("early"), at(2026, 1, 1, 9));
-    early->setSummary(QStringLiteral("ÄLÄMÖLÖ"), false);
-    early->setLocation(QStringLiteral("Rantakatu 1"), false);
-    const auto late = meeting(QStringLiteral("late"), at(2026, 2, 1, 9));
-    late->setSummary(QStringLiteral("älämölö"), false);
-    late->setDescription(QStringLiteral("100%_sure"), false);
-    late->setCategories(QStringList{QStringLiteral("Perhe, ystävät")});
+    const auto early = meeting("early", at(2026, 1, 1, 9));
+    early->setSummary("ÄLÄMÖLÖ", false);
+    early->setLocation("Rantakatu 1", false);
+    const auto late = meeting("late", at(2026, 2, 1, 9));
+    late->setSummary("älämölö", false);
+    late->setDescription("100%_sure", false);
+    late->setCategories(QStringList{"Perhe, ystävät"});
     QVERIFY(m_fixture->store({early, late}));
     const auto reader = m_fixture->open();
     QStringList found;
@@ -348,7 +336,7 @@ void TestStorageLoad::allIncidencesStayOutOfTheCalendar()
     QCOMPARE(list.size(), stock().size());
     QVERIFY(reader->uids().isEmpty());
     list.clear();
-    QVERIFY(reader->storage->allIncidences(&list, QStringLiteral("other")));
+    QVERIFY(reader->storage->allIncidences(&list, "other"));
     QVERIFY(list.isEmpty());
 }
 

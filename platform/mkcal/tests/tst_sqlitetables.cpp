@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
 #include "sqlite/connection.h"
-#include "sqlite/metatable.h"
 #include "sqlite/notebooktable.h"
 #include "sqlite/remindertable.h"
 #include "sqlite/schema.h"
+#include "sqlite/statement.h"
 
 #include <QTemporaryDir>
 #include <QTimeZone>
@@ -19,9 +19,7 @@ class TestSqliteTables : public QObject
 private Q_SLOTS:
     void init();
     void cleanup();
-    void countsChangesByWriter();
     void notebooksComeBackInOrder();
-    void removedNotebookLeavesNothing();
     void remindersAreNotRepeated();
     void remindersKeepTheirOccurrence_data();
     void remindersKeepTheirOccurrence();
@@ -38,7 +36,7 @@ private:
 void TestSqliteTables::init()
 {
     m_folder.reset(new QTemporaryDir);
-    QVERIFY(m_connection.open(m_folder->filePath(QStringLiteral("calendar.db"))));
+    QVERIFY(m_connection.open(m_folder->filePath("calendar.db")));
     QVERIFY(Schema::prepare(m_connection));
 }
 
@@ -48,44 +46,23 @@ void TestSqliteTables::cleanup()
     m_connection.close();
 }
 
-void TestSqliteTables::countsChangesByWriter()
-{
-    MetaTable meta(m_connection);
-    ChangeMark mark;
-    QVERIFY(meta.readMark(&mark));
-    QCOMPARE(mark.counter, 0);
-    qint64 counter = 0;
-    QVERIFY(meta.bump(QStringLiteral("me"), &counter));
-    QCOMPARE(counter, 1);
-    QVERIFY(meta.bump(QStringLiteral("you"), &counter));
-    QVERIFY(meta.readMark(&mark));
-    QCOMPARE(mark.counter, 2);
-    QCOMPARE(mark.writer, QStringLiteral("you"));
-
-    QCOMPARE(meta.defaultNotebook(), QString());
-    QVERIFY(meta.setDefaultNotebook(QStringLiteral("a")));
-    QVERIFY(meta.setDefaultNotebook(QStringLiteral("b")));
-    QCOMPARE(meta.defaultNotebook(), QStringLiteral("b"));
-}
-
 void TestSqliteTables::notebooksComeBackInOrder()
 {
-    Notebook full(QStringLiteral("z"), QStringLiteral("Työ"), QStringLiteral("d"),
-                  QStringLiteral("#123456"), true, false, true, true, false);
+    Notebook full("z", "Työ", "d", "#123456", true, false, true, true, false);
     full.setIsHidden(true);
     full.setEventsAllowed(false);
     full.setJournalsAllowed(false);
-    full.setPluginName(QStringLiteral("plugin"));
-    full.setAccount(QStringLiteral("account"));
-    full.setSyncProfile(QStringLiteral("profile"));
+    full.setPluginName("plugin");
+    full.setAccount("account");
+    full.setSyncProfile("profile");
     full.setSyncDate(m_time);
     full.setCreationDate(m_time.addMSecs(1));
     full.setModifiedDate(m_time.addSecs(1));
-    full.setSharedWith({QStringLiteral("a@b"), QStringLiteral("c@d")});
-    full.setCustomProperty(QStringLiteral("key"), QStringLiteral("value"));
+    full.setSharedWith({"a@b", "c@d"});
+    full.setCustomProperty("key", "value");
     Notebook plain;
-    plain.setUid(QStringLiteral("a"));
-    plain.setName(QStringLiteral("Plain"));
+    plain.setUid("a");
+    plain.setName("Plain");
 
     NotebookTable table(m_connection);
     QVERIFY(table.insert(full));
@@ -96,27 +73,17 @@ void TestSqliteTables::notebooksComeBackInOrder()
     QVERIFY(*notebooks.at(0) == full);
     QVERIFY(*notebooks.at(1) == plain);
 
-    full.setName(QStringLiteral("Koti"));
-    full.setCustomProperty(QStringLiteral("key"), QString());
-    full.setCustomProperty(QStringLiteral("other"), QStringLiteral("x"));
+    full.setName("Koti");
+    full.setCustomProperty("key", QString());
+    full.setCustomProperty("other", "x");
     QVERIFY(table.update(full));
     QVERIFY(table.read(&notebooks));
     QVERIFY(*notebooks.at(0) == full);
-}
 
-void TestSqliteTables::removedNotebookLeavesNothing()
-{
-    NotebookTable table(m_connection);
-    Notebook notebook;
-    notebook.setName(QStringLiteral("Short"));
-    notebook.setCustomProperty(QStringLiteral("key"), QStringLiteral("value"));
-    QVERIFY(table.insert(notebook));
     bool exists = false;
-    QVERIFY(table.exists(notebook.uid(), &exists));
-    QVERIFY(exists);
-    QVERIFY(table.remove(notebook.uid()));
-    QVERIFY(table.exists(notebook.uid(), &exists));
-    QVERIFY(!exists);
+    QVERIFY(table.exists(full.uid(), &exists) && exists);
+    QVERIFY(table.remove(full.uid()));
+    QVERIFY(table.exists(full.uid(), &exists) && !exists);
     Statement properties(m_connection, "SELECT count(*) FROM NotebookProps");
     QVERIFY(properties.next());
     QCOMPARE(properties.integer(0), 0);
@@ -125,8 +92,8 @@ void TestSqliteTables::removedNotebookLeavesNothing()
 Reminder TestSqliteTables::reminder(const QDateTime &time, const KDateTime &recurrenceId) const
 {
     Reminder reminder;
-    reminder.notebook = QStringLiteral("nb");
-    reminder.uid = QStringLiteral("uid");
+    reminder.notebook = "nb";
+    reminder.uid = "uid";
     reminder.recurrenceId = recurrenceId;
     reminder.time = time;
     return reminder;
@@ -149,7 +116,7 @@ void TestSqliteTables::remindersAreNotRepeated()
     QVERIFY(table.setShown(all().first().id));
 
     // Planned anew: the one that was shown stays so, the other is replaced by a later one.
-    QVERIFY(table.removePlanned(QStringLiteral("uid")));
+    QVERIFY(table.removePlanned("uid"));
     QVERIFY(table.add(reminder(m_time)));
     QVERIFY(table.add(reminder(m_time.addSecs(120))));
     QCOMPARE(all().size(), 2);
@@ -161,12 +128,12 @@ void TestSqliteTables::remindersAreNotRepeated()
     QVERIFY(table.read(m_time.addSecs(1), m_time.addSecs(120), &range));
     QVERIFY(range.isEmpty());
 
-    QVERIFY(table.dismissShown(QStringLiteral("uid"), QString()));
+    QVERIFY(table.dismissShown("uid", QString()));
     QCOMPARE(all().size(), 1);
     QVERIFY(table.add(reminder(m_time)));
     QCOMPARE(all().size(), 1);
     QVERIFY(table.purge(m_time.addSecs(1)));
-    QVERIFY(table.removeAll(QStringLiteral("uid")));
+    QVERIFY(table.removeAll("uid"));
     QVERIFY(all().isEmpty());
 }
 

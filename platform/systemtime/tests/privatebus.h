@@ -17,9 +17,7 @@ class PrivateBus
 public:
     PrivateBus()
     {
-        m_daemon.start(QStringLiteral("dbus-daemon"),
-                       {QStringLiteral("--session"), QStringLiteral("--nofork"),
-                        QStringLiteral("--nopidfile"), QStringLiteral("--print-address")});
+        m_daemon.start("dbus-daemon", {"--session", "--nofork", "--nopidfile", "--print-address"});
         if (m_daemon.waitForReadyRead())
             m_address = QString::fromUtf8(m_daemon.readLine()).trimmed();
     }
@@ -48,11 +46,8 @@ private:
 class FakeTimedate
 {
 public:
-    explicit FakeTimedate(const PrivateBus &bus)
-        : m_bus(bus.connection(QStringLiteral("timedate1")))
-    {
-    }
-    ~FakeTimedate() { QDBusConnection::disconnectFromBus(QStringLiteral("timedate1")); }
+    explicit FakeTimedate(const PrivateBus &bus) : m_bus(bus.connection("timedate1")) { }
+    ~FakeTimedate() { QDBusConnection::disconnectFromBus("timedate1"); }
     FakeTimedate(const FakeTimedate &) = delete;
     FakeTimedate &operator=(const FakeTimedate &) = delete;
 
@@ -63,15 +58,14 @@ public:
                   const QString &interfaceName = name())
     {
         QDBusMessage message = QDBusMessage::createSignal(
-            QStringLiteral("/org/freedesktop/timedate1"),
-            QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("PropertiesChanged"));
+            "/org/freedesktop/timedate1", "org.freedesktop.DBus.Properties", "PropertiesChanged");
         message << interfaceName << changed << invalidated;
         m_bus.send(message);
     }
-    void announceZone(const QString &zone) { announce({{QStringLiteral("Timezone"), zone}}); }
+    void announceZone(const QString &zone) { announce({{"Timezone", zone}}); }
 
 private:
-    static QString name() { return QStringLiteral("org.freedesktop.timedate1"); }
+    static QString name() { return "org.freedesktop.timedate1"; }
 
     QDBusConnection m_bus;
 };

@@ -52,9 +52,8 @@ void TestClockWatch::tellsJumpsInWholeSeconds()
     QFETCH(Jumps, jumps);
     QFETCH(Seconds, told);
 
-    auto owned = std::make_unique<FakeKernelClock>();
-    FakeKernelClock *clock = owned.get();
-    ClockWatch watch(std::move(owned));
+    auto *const clock = new FakeKernelClock;
+    ClockWatch watch{std::unique_ptr<KernelClock>(clock)};
     Seconds heard;
     connect(&watch, &ClockWatch::jumped, this, [&heard](qint64 by) { heard << by; });
     for (const auto jump : jumps) {
@@ -67,9 +66,8 @@ void TestClockWatch::tellsJumpsInWholeSeconds()
 
 void TestClockWatch::seesAJumpThatHappensWhileArming()
 {
-    auto owned = std::make_unique<FakeKernelClock>();
-    FakeKernelClock *clock = owned.get();
-    ClockWatch watch(std::move(owned));
+    auto *const clock = new FakeKernelClock;
+    ClockWatch watch{std::unique_ptr<KernelClock>(clock)};
     QSignalSpy spy(&watch, &ClockWatch::jumped);
     clock->jumpWhileArming = 20s;
     clock->setBy(10s);
@@ -79,9 +77,8 @@ void TestClockWatch::seesAJumpThatHappensWhileArming()
 
 void TestClockWatch::tellsOfWaking()
 {
-    auto owned = std::make_unique<FakeKernelClock>();
-    FakeKernelClock *clock = owned.get();
-    ClockWatch watch(std::move(owned));
+    auto *const clock = new FakeKernelClock;
+    ClockWatch watch{std::unique_ptr<KernelClock>(clock)};
     QSignalSpy jumped(&watch, &ClockWatch::jumped);
     QSignalSpy resumed(&watch, &ClockWatch::resumed);
     clock->sleepFor(8h);
@@ -93,9 +90,8 @@ void TestClockWatch::tellsOfWaking()
 
 void TestClockWatch::ignoresAFalseAlarm()
 {
-    auto owned = std::make_unique<FakeKernelClock>();
-    FakeKernelClock *clock = owned.get();
-    ClockWatch watch(std::move(owned));
+    auto *const clock = new FakeKernelClock;
+    ClockWatch watch{std::unique_ptr<KernelClock>(clock)};
     QSignalSpy spy(&watch, &ClockWatch::jumped);
     clock->falseAlarm = true;
     clock->setBy(0s);

@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The daskel authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
+#include "testtable.h"
+
 #include <systemtime/timed.h>
 #include <systemtime/timesource.h>
 
@@ -24,23 +26,10 @@ public:
     int calls = 0;
 
 public Q_SLOTS:
-    void onSettings(const Ostra::Timed::WallClock::Info &info, bool timeChanged)
-    {
-        Q_UNUSED(info)
-        Q_UNUSED(timeChanged)
-        ++calls;
-    }
-    void onInfo(const Ostra::Timed::WallClock::Info &info)
-    {
-        Q_UNUSED(info)
-        ++calls;
-    }
+    void onSettings(const Ostra::Timed::WallClock::Info &, bool) { ++calls; }
+    void onInfo(const Ostra::Timed::WallClock::Info &) { ++calls; }
     void onAnything() { ++calls; }
-    void onSeconds(int seconds)
-    {
-        Q_UNUSED(seconds)
-        ++calls;
-    }
+    void onSeconds(int) { ++calls; }
 };
 
 constexpr qint64 zone = 0; // in the lists of changes below: a change of zone
@@ -63,20 +52,16 @@ private Q_SLOTS:
 
 void TestTimed::tellsChangesOfOneTurnOnce_data()
 {
-    QTest::addColumn<QList<qint64>>("changes");
-    QTest::addColumn<int>("notices");
-    QTest::addColumn<qint64>("clockDiff");
+    addColumns<QList<qint64>, int, qint64>("changes", "notices", "clockDiff");
 
-    QTest::newRow("an hour forward") << QList<qint64>{3600} << 1 << qint64(3600);
-    QTest::newRow("a day back") << QList<qint64>{-86400} << 1 << qint64(86400);
-    QTest::newRow("another zone") << QList<qint64>{zone} << 1 << qint64(0);
-    QTest::newRow("zone by file and by bus") << QList<qint64>{zone, zone} << 1 << qint64(0);
-    QTest::newRow("arrival: zone and clock")
-        << QList<qint64>{zone, -7200, zone} << 1 << qint64(7200);
-    QTest::newRow("two steps forward") << QList<qint64>{60, 3} << 1 << qint64(63);
-    QTest::newRow("set and set back") << QList<qint64>{500, -500} << 0 << qint64(0);
-    QTest::newRow("set and set back in another zone")
-        << QList<qint64>{500, zone, -500} << 1 << qint64(0);
+    addRow("an hour forward", QList<qint64>{3600}, 1, qint64(3600));
+    addRow("a day back", QList<qint64>{-86400}, 1, qint64(86400));
+    addRow("another zone", QList<qint64>{zone}, 1, qint64(0));
+    addRow("zone by file and by bus", QList<qint64>{zone, zone}, 1, qint64(0));
+    addRow("arrival: zone and clock", QList<qint64>{zone, -7200, zone}, 1, qint64(7200));
+    addRow("two steps forward", QList<qint64>{60, 3}, 1, qint64(63));
+    addRow("set and set back", QList<qint64>{500, -500}, 0, qint64(0));
+    addRow("set and set back in another zone", QList<qint64>{500, zone, -500}, 1, qint64(0));
 }
 
 void TestTimed::tellsChangesOfOneTurnOnce()
@@ -85,9 +70,8 @@ void TestTimed::tellsChangesOfOneTurnOnce()
     QFETCH(int, notices);
     QFETCH(qint64, clockDiff);
 
-    auto owned = std::make_unique<TimeSource>();
-    TimeSource *source = owned.get();
-    Interface timed(std::move(owned));
+    auto *const source = new TimeSource;
+    Interface timed{std::unique_ptr<TimeSource>(source)};
     QSignalSpy spy(&timed, &Interface::settingsChanged);
     for (const qint64 change : changes) {
         if (change == zone)
@@ -106,9 +90,8 @@ void TestTimed::tellsChangesOfOneTurnOnce()
 
 void TestTimed::tellsEachTurnByItself()
 {
-    auto owned = std::make_unique<TimeSource>();
-    TimeSource *source = owned.get();
-    Interface timed(std::move(owned));
+    auto *const source = new TimeSource;
+    Interface timed{std::unique_ptr<TimeSource>(source)};
     QSignalSpy spy(&timed, &Interface::settingsChanged);
 
     Q_EMIT source->clockJumped(100);
@@ -121,17 +104,16 @@ void TestTimed::tellsEachTurnByItself()
 
 void TestTimed::connectsSlotsThatFit_data()
 {
-    QTest::addColumn<QByteArray>("slot");
-    QTest::addColumn<bool>("fits");
+    addColumns<QByteArray, bool>("slot", "fits");
 
-    QTest::newRow("both arguments")
-        << QByteArray(SLOT(onSettings(const Ostra::Timed::WallClock::Info &, bool))) << true;
-    QTest::newRow("the first argument")
-        << QByteArray(SLOT(onInfo(const Ostra::Timed::WallClock::Info &))) << true;
-    QTest::newRow("no argument") << QByteArray(SLOT(onAnything())) << true;
-    QTest::newRow("another argument") << QByteArray(SLOT(onSeconds(int))) << false;
-    QTest::newRow("no such slot") << QByteArray(SLOT(onNothing())) << false;
-    QTest::newRow("a name without SLOT()") << QByteArray("onAnything()") << false;
+    addRow("both arguments",
+           QByteArray(SLOT(onSettings(const Ostra::Timed::WallClock::Info &, bool))), true);
+    addRow("the first argument", QByteArray(SLOT(onInfo(const Ostra::Timed::WallClock::Info &))),
+           true);
+    addRow("no argument", QByteArray(SLOT(onAnything())), true);
+    addRow("another argument", QByteArray(SLOT(onSeconds(int))), false);
+    addRow("no such slot", QByteArray(SLOT(onNothing())), false);
+    addRow("a name without SLOT()", QByteArray("onAnything()"), false);
 }
 
 void TestTimed::connectsSlotsThatFit()
@@ -139,9 +121,8 @@ void TestTimed::connectsSlotsThatFit()
     QFETCH(QByteArray, slot);
     QFETCH(bool, fits);
 
-    auto owned = std::make_unique<TimeSource>();
-    TimeSource *source = owned.get();
-    Interface timed(std::move(owned));
+    auto *const source = new TimeSource;
+    Interface timed{std::unique_ptr<TimeSource>(source)};
     Listener listener;
     QCOMPARE(timed.settings_changed_connect(&listener, slot.constData()), fits);
     Q_EMIT source->zoneChanged();

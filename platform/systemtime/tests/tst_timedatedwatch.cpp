@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
 #include "privatebus.h"
+#include "testtable.h"
 #include "timedatedwatch.h"
 
 #include <QSignalSpy>
@@ -22,26 +23,21 @@ private Q_SLOTS:
 
 void TestTimedatedWatch::tellsTheZoneOnly_data()
 {
-    QTest::addColumn<QVariantMap>("changed");
-    QTest::addColumn<QStringList>("invalidated");
-    QTest::addColumn<QString>("interfaceName");
-    QTest::addColumn<QStringList>("told");
+    addColumns<QVariantMap, QStringList, QString, QStringList>("changed", "invalidated",
+                                                               "interfaceName", "told");
 
     const QString service = QStringLiteral("org.freedesktop.timedate1");
     const QString zone = QStringLiteral("Timezone");
     const QString berlin = QStringLiteral("Europe/Berlin");
-    QTest::newRow("the zone") << QVariantMap{{zone, berlin}} << QStringList() << service
-                              << QStringList{berlin};
-    QTest::newRow("the zone among others")
-        << QVariantMap{{zone, berlin}, {QStringLiteral("LocalRTC"), true}}
-        << QStringList{QStringLiteral("NTP")} << service << QStringList{berlin};
-    QTest::newRow("the zone without its value")
-        << QVariantMap() << QStringList{zone} << service << QStringList{QString()};
-    QTest::newRow("another property")
-        << QVariantMap{{QStringLiteral("NTP"), true}} << QStringList() << service << QStringList();
-    QTest::newRow("another interface")
-        << QVariantMap{{zone, berlin}} << QStringList()
-        << QStringLiteral("org.freedesktop.DBus.Peer") << QStringList();
+    addRow("the zone", QVariantMap{{zone, berlin}}, QStringList(), service, QStringList{berlin});
+    addRow("the zone among others", QVariantMap{{zone, berlin}, {QStringLiteral("LocalRTC"), true}},
+           QStringList{QStringLiteral("NTP")}, service, QStringList{berlin});
+    addRow("the zone without its value", QVariantMap(), QStringList{zone}, service,
+           QStringList{QString()});
+    addRow("another property", QVariantMap{{QStringLiteral("NTP"), true}}, QStringList(), service,
+           QStringList());
+    addRow("another interface", QVariantMap{{zone, berlin}}, QStringList(),
+           QStringLiteral("org.freedesktop.DBus.Peer"), QStringList());
 }
 
 void TestTimedatedWatch::tellsTheZoneOnly()
