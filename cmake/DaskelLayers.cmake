@@ -58,6 +58,8 @@ endfunction()
 # The label "threaded" marks what also runs under ThreadSanitizer; the target threaded_tests
 # builds just those.
 add_custom_target(threaded_tests)
+set(DASKEL_LEAKS_NOT_OURS
+    LSAN_OPTIONS=suppressions=${CMAKE_CURRENT_LIST_DIR}/leaks.txt:print_suppressions=0)
 function(daskel_add_test name)
     cmake_parse_arguments(TEST "" "" "LABELS;SOURCES;LINK" ${ARGN})
     add_executable(${name} ${name}.cpp ${TEST_SOURCES})
@@ -71,5 +73,5 @@ function(daskel_add_test name)
     set_tests_properties(${name} PROPERTIES
         LABELS "${TEST_LABELS}"
         TIMEOUT 300
-        ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
+        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;${DASKEL_LEAKS_NOT_OURS}")
 endfunction()
