@@ -34,6 +34,8 @@ private Q_SLOTS:
     void savePlansWhatChanged();
     void planningAgainRepeatsNothing();
     void openingExtendsTheHorizonOfSeries();
+    void openingDoesNotWaitForTheHorizon_data();
+    void openingDoesNotWaitForTheHorizon();
     void openedIncidenceIsDismissed();
     void importedAlarmsArePlanned();
     void importKeepsRemindersOfTheFamily();
@@ -146,6 +148,39 @@ void TestStorageReminders::openingExtendsTheHorizonOfSeries()
     QVERIFY(lastPlanned() < horizon.addDays(30) && lastPlanned() > horizon.addDays(28));
     const auto opened = m_fixture->open();
     QCOMPARE(opened->storage->reminders(m_fixture->now, horizon.addDays(30)).size(), 60);
+}
+
+void TestStorageReminders::openingDoesNotWaitForTheHorizon_data()
+{
+    QTest::addColumn<bool>("savesItself");
+    QTest::newRow("the next save makes up for it") << true;
+    QTest::newRow("the save of another does") << false;
+}
+
+void TestStorageReminders::openingDoesNotWaitForTheHorizon()
+{
+    QFETCH(bool, savesItself);
+    QVERIFY(m_fixture->store({withAlarm(daily("series", at(2026, 3, 9, 9), -1))}));
+    const auto other = m_fixture->open();
+    m_fixture->now = m_fixture->now.addDays(30);
+    std::unique_ptr<OpenStorage> opened;
+    {
+        Connection writing;
+        QVERIFY(writing.open(m_fixture->fileName()));
+        const Transaction lock(writing);
+        QVERIFY(lock.isActive());
+        QElapsedTimer waiting;
+        waiting.start();
+        opened = m_fixture->open();
+        QVERIFY(!waiting.hasExpired(3000));
+        QVERIFY(opened->isOpen);
+        QCOMPARE(opened->storage->errorCode(), 0);
+        QCOMPARE(times(*opened).size(), 30);
+    }
+    OpenStorage &saving = savesItself ? *opened : *other;
+    saving.calendar->addIncidence(meeting("new", at(2026, 4, 20, 9)));
+    QVERIFY(saving.storage->save());
+    QTRY_COMPARE(times(*opened).size(), 60);
 }
 
 void TestStorageReminders::openedIncidenceIsDismissed()

@@ -184,9 +184,14 @@ Statement &Connection::statement(const QByteArray &sql)
     return *kept;
 }
 
-bool Connection::beginImmediate()
+bool Connection::beginImmediate(Lock lock)
 {
-    return statement(QByteArrayLiteral("BEGIN IMMEDIATE")).run();
+    if (lock == Lock::Awaited)
+        return statement(QByteArrayLiteral("BEGIN IMMEDIATE")).run();
+    sqlite3_busy_timeout(m_database, 0);
+    const bool begun = statement(QByteArrayLiteral("BEGIN IMMEDIATE")).run();
+    sqlite3_busy_timeout(m_database, busyMilliseconds);
+    return begun;
 }
 
 bool Connection::commit()
@@ -254,8 +259,8 @@ void Connection::noteError(int code, const QString &text)
     m_errorCodes.append(m_lastError.primary);
 }
 
-Transaction::Transaction(Connection &connection)
-    : m_connection(connection), m_active(connection.beginImmediate())
+Transaction::Transaction(Connection &connection, Connection::Lock lock)
+    : m_connection(connection), m_active(connection.beginImmediate(lock))
 {
 }
 

@@ -56,8 +56,13 @@ public:
     /// nested in themselves; whoever needs one always holds a Statement of its own.
     Statement &statement(const QByteArray &sql);
 
+    /// What to do while somebody else writes.
+    enum class Lock {
+        Awaited, ///< wait for it, up to 5 s
+        Tried ///< refuse at once
+    };
     /// Takes the write lock at once, so that what is read inside cannot be outdated when written.
-    bool beginImmediate();
+    bool beginImmediate(Lock lock = Lock::Awaited);
     bool commit();
     /// Does nothing when SQLite has already rolled back by itself (full disk, failed write).
     void rollback();
@@ -102,7 +107,7 @@ class Transaction
 {
 public:
     /// Begins at once; isActive() tells whether the write lock was got.
-    explicit Transaction(Connection &connection);
+    explicit Transaction(Connection &connection, Connection::Lock lock = Connection::Lock::Awaited);
     ~Transaction();
     Transaction(const Transaction &) = delete;
     Transaction &operator=(const Transaction &) = delete;

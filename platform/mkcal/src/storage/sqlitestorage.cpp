@@ -69,7 +69,6 @@ bool SqliteStoragePrivate::open()
     }
     seenDataVersion = goesOn ? -1 : dataVersion;
     marker.open();
-    // A horizon that cannot be extended now is extended at the next opening.
     extendHorizon();
     connection.clearErrors();
     watcher.watch({marker.fileName(), fileName + QLatin1String("-wal")});
@@ -108,11 +107,12 @@ bool SqliteStoragePrivate::isWritable()
     return true;
 }
 
-bool SqliteStoragePrivate::write(Counter counter, const std::function<bool(qint64)> &body)
+bool SqliteStoragePrivate::write(Counter counter, const std::function<bool(qint64)> &body,
+                                 Connection::Lock lock)
 {
     if (!isWritable())
         return false;
-    Transaction transaction(connection);
+    Transaction transaction(connection, lock);
     if (!transaction.isActive() || !catchUp())
         return false;
     qint64 change = seenChange;
@@ -123,6 +123,8 @@ bool SqliteStoragePrivate::write(Counter counter, const std::function<bool(qint6
     seenChange = change;
     if (counter == Counter::Moves)
         marker.touch();
+    if (horizonDue)
+        extendHorizon();
     return true;
 }
 
@@ -154,6 +156,8 @@ void SqliteStoragePrivate::lookForForeignChanges()
     const qint64 dataVersion = connection.dataVersion();
     if (dataVersion != seenDataVersion && catchUp())
         seenDataVersion = dataVersion;
+    if (horizonDue)
+        extendHorizon();
     const bool hasNews = foreignNoticeDue;
     foreignNoticeDue = false;
     lock.unlock();

@@ -52,7 +52,8 @@ public:
     };
     /// Runs @p body in a write transaction, with the number of the change that it makes. Foreign
     /// changes up to now are taken in first. All is undone when the body or the database refuses.
-    bool write(Counter counter, const std::function<bool(qint64 change)> &body);
+    bool write(Counter counter, const std::function<bool(qint64 change)> &body,
+               Connection::Lock lock = Connection::Lock::Awaited);
 
     /// Takes in what others wrote since the last look. False on a database error.
     bool catchUp();
@@ -95,8 +96,9 @@ public:
 
     /// Plans the reminders of everything that writeChanges() wrote.
     bool planChanged();
-    /// Once a day: plans those of the series that the moving horizon has reached.
-    bool extendHorizon();
+    /// Once a day: plans those of the series that the moving horizon has reached, or puts it off
+    /// while somebody else writes.
+    void extendHorizon();
 
     SqliteStorage *q;
     ExtendedCalendar::Ptr calendar;
@@ -122,6 +124,7 @@ public:
     std::atomic<bool> lookDue{false}; ///< somebody looked in vain while the lock was held
     std::atomic<int> noticeHolds{0};
     bool bulkActive = false;
+    bool horizonDue = false; ///< extendHorizon() was put off
 
     Notebook::List notebooks;
     QString defaultNotebook;

@@ -33,11 +33,16 @@ bool SqliteStoragePrivate::planChanged()
     return true;
 }
 
-bool SqliteStoragePrivate::extendHorizon()
+void SqliteStoragePrivate::extendHorizon()
 {
     ReminderSchedule schedule(connection, *tables, calendar->timeZone());
-    return !schedule.isHorizonNear()
-        || write(Counter::Stays, [&schedule](qint64) { return schedule.extendHorizon(); });
+    // Who opens the calendar to read does not wait for another's writing: the next save makes up
+    // for it, or the next look at what the other wrote.
+    horizonDue = false;
+    horizonDue = schedule.isHorizonNear()
+        && !write(
+                     Counter::Stays, [&schedule](qint64) { return schedule.extendHorizon(); },
+                     Connection::Lock::Tried);
 }
 
 bool SqliteStorage::resetAlarms(const KCalCore::Incidence::List &incidences)
