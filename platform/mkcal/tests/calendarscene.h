@@ -90,6 +90,21 @@ template <typename Pointer> Pointer recurring(const Pointer &incidence, const QS
     return incidence;
 }
 
+/// "a", an event that recurs.
+inline KCalCore::Event::Ptr series(const QString &rule, const QString &start, const QString &end,
+                                   const QByteArray &zone = "Europe/Helsinki")
+{
+    return recurring(newEvent(QStringLiteral("a"), start, end, zone), rule);
+}
+
+/// "a", an hour on 2 May, or as often as @p rule says.
+inline KCalCore::Event::Ptr meeting(const QString &rule = {},
+                                    const QString &start = QStringLiteral("2011-05-02T10:00"))
+{
+    const QString end = at(start).addSecs(3600).toString(Qt::ISODate).left(16);
+    return rule.isEmpty() ? newEvent(QStringLiteral("a"), start, end) : series(rule, start, end);
+}
+
 /// Stands in for one occurrence of @p series.
 template <typename Pointer>
 Pointer exception(const Pointer &series, const QDateTime &recurrenceId, const QString &start,

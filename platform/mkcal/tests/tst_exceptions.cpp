@@ -12,12 +12,7 @@ using Event = KCalCore::Event::Ptr;
 
 Event weekly()
 {
-    return recurring(newEvent("a", "2011-05-02T10:00", "2011-05-02T11:00"), "FREQ=WEEKLY;COUNT=5");
-}
-
-Event daily(const QString &start, const QString &end, const QString &rule = "FREQ=DAILY;COUNT=3")
-{
-    return recurring(newEvent("a", start, end), rule);
+    return meeting("FREQ=WEEKLY;COUNT=5");
 }
 
 /// Replaces the occurrence of 16 May.
@@ -66,7 +61,7 @@ void addFromThereRows()
               "2011-05-01", "2011-07-01",
               {"a 05-02 10:00 > 11:00", "a 05-09 10:00 > 11:00", "a 05-17 09:00 > 12:00",
                "a 05-24 09:00 > 12:00", "a 05-31 09:00 > 12:00"});
-    const Event spring = daily("2011-03-20T10:00", "2011-03-20T11:00", "FREQ=DAILY;COUNT=9");
+    const Event spring = meeting("FREQ=DAILY;COUNT=9", "2011-03-20T10:00");
     agendaRow("from there on, over the clock change, with one moved back",
               {spring,
                fromThere(exception(spring, at("2011-03-26T10:00"), "2011-03-26T03:30",
@@ -75,7 +70,7 @@ void addFromThereRows()
               "2011-03-25", "2011-04-10",
               {"a 03-25 10:00 > 11:00", "a 03-26 03:30 > 04:00", "a 03-27 04:30 > 05:00",
                "a 03-28 10:00 > 11:00"});
-    const Event days = daily("2011-05-01", "2011-05-02", "FREQ=DAILY");
+    const Event days = CalendarScene::series("FREQ=DAILY", "2011-05-01", "2011-05-02");
     agendaRow(
         "from there on, twice, then cancelled",
         {days, fromThere(exception(days, at("2011-05-03", ""), "2011-05-13", "2011-05-15")),
@@ -102,7 +97,7 @@ void addIdentifierRows()
               "2011-04-01",
               {"floating 03-27 09:00 > 09:15", "zoned 03-27 09:00 > 09:15",
                "floating 03-28 03:30 > 03:45", "zoned 03-28 03:30 > 03:45"});
-    const Event days = daily("2011-05-01", "2011-05-02");
+    const Event days = CalendarScene::series("FREQ=DAILY;COUNT=3", "2011-05-01", "2011-05-02");
     agendaRow("all-day, named in the zone of another program",
               {days,
                exception(days, at("2011-05-02", "America/New_York"), "2011-05-20", "2011-05-21"),

@@ -11,18 +11,6 @@ namespace
 {
 using Incidence = KCalCore::Incidence;
 
-KCalCore::Event::Ptr meeting(const QString &rule, const QString &start = "2011-05-02T10:00")
-{
-    const QString end = at(start).addSecs(3600).toString(Qt::ISODate).left(16);
-    return recurring(newEvent("a", start, end), rule);
-}
-
-KCalCore::Event::Ptr series(const QString &rule, const QString &start, const QString &end,
-                            const QByteArray &zone = "Europe/Helsinki")
-{
-    return recurring(newEvent("a", start, end, zone), rule);
-}
-
 KCalCore::Todo::Ptr task(const QString &uid, const QString &start, const QString &due)
 {
     return with(newTodo(uid, due), [&](auto &todo) { todo.setDtStart(at(start)); });

@@ -8,8 +8,6 @@ using namespace CalendarScene;
 
 namespace
 {
-using Family = KCalCore::Incidence::List;
-
 KCalCore::Alarm::Ptr alarm(const KCalCore::Incidence::Ptr &incidence)
 {
     KCalCore::Alarm::Ptr alarm = incidence->newAlarm();
@@ -40,12 +38,6 @@ template <typename Pointer> Pointer ringingOn(const Pointer &incidence, const QD
 {
     alarm(incidence)->setTime(time);
     return incidence;
-}
-
-KCalCore::Event::Ptr meeting(const QString &rule = {})
-{
-    const auto event = newEvent("a", "2011-05-02T10:00", "2011-05-02T11:00");
-    return rule.isEmpty() ? event : recurring(event, rule);
 }
 
 KCalCore::Event::Ptr cancelled(const KCalCore::Event::Ptr &event)
