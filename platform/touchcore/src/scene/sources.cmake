@@ -1,0 +1,39 @@
+# SPDX-FileCopyrightText: 2026 The daskel authors
+# SPDX-License-Identifier: LGPL-2.1-or-later
+
+set(TOUCHCORE_SCENE_HEADERS
+    include/touchcore/mapplication.h
+    include/touchcore/mapplicationpage.h
+    include/touchcore/mapplicationpagemodel.h
+    include/touchcore/mbanner.h
+    include/touchcore/mdialog.h
+    include/touchcore/mmessagebox.h
+    include/touchcore/mobjectmenu.h
+    include/touchcore/mscenemanager.h
+    include/touchcore/mscenewindow.h
+    include/touchcore/mscenewindowstyle.h
+    include/touchcore/msheet.h
+    include/touchcore/mwindow.h
+)
+set(TOUCHCORE_SCENE_SOURCES
+    src/scene/actionbutton.cpp
+    src/scene/bannerqueue.cpp
+    src/scene/dialogbuttons.cpp
+    src/scene/longpress.cpp
+    src/scene/mapplication.cpp
+    src/scene/mapplicationpage.cpp
+    src/scene/mbanner.cpp
+    src/scene/mdialog.cpp
+    src/scene/mmessagebox.cpp
+    src/scene/mobjectmenu.cpp
+    src/scene/mscenemanager.cpp
+    src/scene/mscenewindow.cpp
+    src/scene/msheet.cpp
+    src/scene/mwindow.cpp
+    src/scene/pageheader.cpp
+    src/scene/scenedim.cpp
+    src/scene/scenefocus.cpp
+    src/scene/scenestack.cpp
+    src/scene/scenetexts.cpp
+    src/scene/scenetransition.cpp
+)

@@ -1,0 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The daskel authors
+# SPDX-License-Identifier: LGPL-2.1-or-later
+
+foreach(test tst_mscenemanager tst_mwindow)
+    daskel_add_test(${test} LINK tarvotouchcore)
+endforeach()
