@@ -48,6 +48,8 @@ private Q_SLOTS:
     void cleanup();
     void loadBringsWhatItSays_data();
     void loadBringsWhatItSays();
+    void aClosedCalendarIsReadAgain_data() { loadBringsWhatItSays_data(); }
+    void aClosedCalendarIsReadAgain();
     void onlyMissingDaysAreRead();
     void zonesAndFloatingTimesAreInTheirDays_data();
     void zonesAndFloatingTimesAreInTheirDays();
@@ -140,6 +142,26 @@ void TestStorageLoad::loadBringsWhatItSays()
     QVERIFY(load(*reader->storage));
     QCOMPARE(reader->reads(), reads);
     QCOMPARE(reader->uids(), uids);
+}
+
+void TestStorageLoad::aClosedCalendarIsReadAgain()
+{
+    QFETCH(Load, load);
+    const auto opened = m_fixture->open();
+    QVERIFY(load(*opened->storage));
+    const QStringList brought = opened->uids();
+    // What was not saved is gone, and is not saved later.
+    for (const auto &incidence : opened->calendar->rawIncidences())
+        incidence->setSummary("edited", false);
+    opened->calendar->addIncidence(meeting("unsaved", at(2026, 3, 10, 9)));
+    opened->calendar->close();
+    QVERIFY(opened->uids().isEmpty());
+    QVERIFY(!opened->storage->hasUnsavedChanges());
+    QVERIFY(opened->storage->save());
+    QVERIFY(load(*opened->storage));
+    QCOMPARE(opened->uids(), brought);
+    for (const auto &incidence : opened->calendar->rawIncidences())
+        QVERIFY(incidence->summary() != "edited");
 }
 
 void TestStorageLoad::onlyMissingDaysAreRead()

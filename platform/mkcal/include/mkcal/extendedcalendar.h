@@ -63,6 +63,8 @@ public:
     /// The storage of the person's own calendar (SqliteStorage on its default file), not yet open.
     static QSharedPointer<ExtendedStorage> defaultStorage(const Ptr &calendar);
 
+    /// Drops everything from memory, changes that were not saved too. Nothing is deleted in the
+    /// storage, which reads it again when it is asked to load.
     void close() override;
 
     // Adding: a second incidence of the same UID and recurrence identifier takes the first one's
@@ -191,6 +193,10 @@ public:
     /// children as changed when their parent is deleted, and cost time for each missing parent.
     void setupRelations(const KCalCore::Incidence::Ptr &incidence) MKCAL_OVERRIDE_KF5;
     void removeRelations(const KCalCore::Incidence::Ptr &incidence) MKCAL_OVERRIDE_KF5;
+
+Q_SIGNALS:
+    /// Everything was dropped from memory.
+    void closed();
 
 protected:
     void doSetTimeZone(const QTimeZone &timeZone) override;

@@ -186,6 +186,7 @@ void ExtendedCalendar::close()
     d->dates.clear();
     d->families.clear();
     MemoryCalendar::close();
+    Q_EMIT closed();
 }
 
 bool ExtendedCalendar::addIncidence(const KCalCore::Incidence::Ptr &incidence,

@@ -38,6 +38,14 @@ SqliteStoragePrivate::SqliteStoragePrivate(SqliteStorage *storage,
     calendar->setUpdateLastModifiedOnChange(false);
     QObject::connect(&watcher, &ChangeWatcher::touched, &watcher,
                      [this] { lookForForeignChanges(); });
+    QObject::connect(
+        calendar.data(), &ExtendedCalendar::closed, &watcher,
+        [this] {
+            const std::lock_guard<std::recursive_mutex> lock(mutex);
+            changes.clear();
+            loaded.clear();
+        },
+        Qt::DirectConnection);
 }
 
 SqliteStoragePrivate::~SqliteStoragePrivate()
