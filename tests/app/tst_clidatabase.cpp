@@ -158,6 +158,10 @@ void TestCliDatabase::damaged()
     QVERIFY(found.out.contains("The database is damaged"));
     QCOMPARE(found.exitCode, 1);
 
+    const CliResult nowhere = cli.run({"check", "--repair", "saved/calendar.db"});
+    QVERIFY2(nowhere.exitCode == 1 && nowhere.error.contains("there is no folder"),
+             nowhere.described());
+    QVERIFY(QDir(cli.path({})).mkdir("saved"));
     const CliResult saved = cli.run({"check", "--repair", cli.path("saved/calendar.db")});
     QVERIFY2(saved.exitCode == 3 && saved.error.contains("lost"), saved.described());
     QCOMPARE(CliRunner::read(cli.databaseFile()), content);

@@ -52,6 +52,7 @@ private Q_SLOTS:
     void findsFaults();
     void cannotLookAt_data();
     void cannotLookAt();
+    void repairNeedsItsFolder();
     void repairsWholeFileCompletely();
     void repairsDamagedFile_data();
     void repairsDamagedFile();
@@ -205,6 +206,14 @@ void TestStorageCheck::cannotLookAt()
     QVERIFY(!QFile::exists(m_target));
     QCOMPARE(contents(m_file), bytes);
     QVERIFY(!checkDatabase(m_folder->filePath(QStringLiteral("none.db"))).error.isEmpty());
+}
+
+void TestStorageCheck::repairNeedsItsFolder()
+{
+    const QString folder = m_folder->filePath(QStringLiteral("none"));
+    const CheckReport report = repairDatabase(m_file, folder + QStringLiteral("/rescued.db"));
+    QCOMPARE(report.error, QStringLiteral("%1/rescued.db: there is no folder \"%1\"").arg(folder));
+    QVERIFY(!QFile::exists(folder));
 }
 
 void TestStorageCheck::repairsWholeFileCompletely()

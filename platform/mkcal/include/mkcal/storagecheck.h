@@ -28,7 +28,8 @@ struct CheckReport {
 
 /// Looks at @p databaseName without changing it.
 CheckReport checkDatabase(const QString &databaseName);
-/// Writes what can be saved of @p databaseName into the new file @p target, which must not exist.
+/// Writes what can be saved of @p databaseName into the new file @p target, which must not exist,
+/// while its folder must.
 /// The damaged file is not changed. The report is of the new file; its problems name what was lost.
 CheckReport repairDatabase(const QString &databaseName, const QString &target);
 } // namespace mKCal

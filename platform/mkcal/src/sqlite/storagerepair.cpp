@@ -12,6 +12,7 @@
 #include <mkcal/storagecheck.h>
 
 #include <QFile>
+#include <QFileInfo>
 #include <QSet>
 
 #include <algorithm>
@@ -199,6 +200,11 @@ CheckReport repairDatabase(const QString &databaseName, const QString &target)
     CheckReport report;
     if (QFile::exists(target)) {
         report.error = QStringLiteral("%1: there is already a file of that name").arg(target);
+        return report;
+    }
+    const QString folder = QFileInfo(target).absolutePath();
+    if (!QFileInfo(folder).isDir()) {
+        report.error = QStringLiteral("%1: there is no folder \"%2\"").arg(target, folder);
         return report;
     }
     Connection damaged;
