@@ -22,7 +22,7 @@ Rule *newRule(const Recurrence &recurrence, Rule::PeriodType period, int frequen
 {
     auto *rule = new Rule;
     rule->setRecurrenceType(period);
-    rule->setFrequency(uint(frequency));
+    rule->setFrequency(frequency);
     rule->setStartDt(recurrence.startDateTime());
     rule->setDuration(-1);
     return rule;
