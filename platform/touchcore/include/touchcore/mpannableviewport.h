@@ -80,6 +80,7 @@ Q_SIGNALS:
     void panningStopped();
 
 protected:
+    bool event(QEvent *event) override;
     bool sceneEventFilter(QGraphicsItem *watched, QEvent *event) override;
     void mousePressEvent(QGraphicsSceneMouseEvent *event) override;
     void mouseMoveEvent(QGraphicsSceneMouseEvent *event) override;

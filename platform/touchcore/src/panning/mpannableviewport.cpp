@@ -9,6 +9,7 @@
 #include <touchcore/mphysics2dpanning.h>
 #include <touchcore/mpositionindicator.h>
 
+#include <QCoreApplication>
 #include <QGraphicsScene>
 #include <QGraphicsSceneMouseEvent>
 #include <QGraphicsSceneWheelEvent>
@@ -68,7 +69,7 @@ public:
     QGraphicsWidget *pane;
     PaneLayout *layout;
     MPositionIndicator *indicator;
-    QPointer<QGraphicsWidget> widget;
+    QGraphicsWidget *widget() const { return layout->widget(); }
     MPhysics2DPanning *physics = nullptr;
     PanGesture gesture;
     /// A turn of the event loop later.
@@ -76,6 +77,7 @@ public:
     MPannableViewport::PanningPolicy verticalPolicy = MPannableViewport::PanningAlwaysOn;
     MPannableViewport::PanningPolicy horizontalPolicy = MPannableViewport::PanningAlwaysOff;
     bool isUpdatingExtent = false;
+    bool isExtentOutdated = false;
     QMetaObject::Connection focusConnection;
     QPointer<QWidget> watchedWidget;
 };
@@ -85,9 +87,9 @@ QSizeF MPannableViewportPrivate::widgetSize() const
     const QSizeF room = q->size();
     qreal width = room.width();
     if (horizontalPolicy != MPannableViewport::PanningAlwaysOff)
-        width = qMax(width, widget->effectiveSizeHint(Qt::PreferredSize).width());
-    const QSizeF wanted = widget->effectiveSizeHint(Qt::PreferredSize, QSizeF(width, -1));
-    const qreal highest = widget->effectiveSizeHint(Qt::MaximumSize).height();
+        width = qMax(width, widget()->effectiveSizeHint(Qt::PreferredSize).width());
+    const QSizeF wanted = widget()->effectiveSizeHint(Qt::PreferredSize, QSizeF(width, -1));
+    const qreal highest = widget()->effectiveSizeHint(Qt::MaximumSize).height();
     return {width, qMin(qMax(wanted.height(), room.height()), qMax(wanted.height(), highest))};
 }
 
@@ -101,9 +103,9 @@ void MPannableViewportPrivate::show(const QPointF &position)
 
 void MPannableViewportPrivate::followFocus(QGraphicsItem *focused)
 {
-    if (!widget || !focused || !widget->isAncestorOf(focused))
+    if (!widget() || !focused || !widget()->isAncestorOf(focused))
         return;
-    const QRectF area = focused->mapRectToItem(widget, focused->boundingRect());
+    const QRectF area = focused->mapRectToItem(widget(), focused->boundingRect());
     if (area.height() <= q->size().height())
         q->ensureVisible(area);
 }
@@ -174,12 +176,11 @@ MPannableViewport::~MPannableViewport()
 
 void MPannableViewport::setWidget(QGraphicsWidget *widget)
 {
-    if (widget == d->widget)
+    if (widget == d->widget())
         return;
-    delete d->widget;
-    d->widget = widget;
+    delete d->widget();
     d->physics->stop();
-    d->layout->setItem(widget);
+    d->layout->setWidget(widget);
     if (widget)
         widget->setPos(0, 0);
     updateExtent();
@@ -188,7 +189,7 @@ void MPannableViewport::setWidget(QGraphicsWidget *widget)
 
 QGraphicsWidget *MPannableViewport::widget() const
 {
-    return d->widget;
+    return d->widget();
 }
 
 MPhysics2DPanning *MPannableViewport::physics() const
@@ -278,20 +279,34 @@ MPositionIndicator *MPannableViewport::positionIndicator() const
 
 void MPannableViewport::updateExtent()
 {
-    if (d->isUpdatingExtent)
+    const QSizeF wanted = d->widget() ? d->widgetSize() : size();
+    const QRectF range(QPointF(), (wanted - size()).expandedTo(QSizeF(0, 0)));
+    d->physics->setRange(d->physics->range() | range);
+    // Asked for by the widget, which is being told of its geometry: that has to come first.
+    if (d->isUpdatingExtent) {
+        d->isExtentOutdated = true;
         return;
+    }
     const QScopedValueRollback<bool> guard(d->isUpdatingExtent, true);
-    const QSizeF wanted = d->widget ? d->widgetSize() : size();
-    const QSizeF room = (wanted - size()).expandedTo(QSizeF(0, 0));
-    d->physics->setRange(d->physics->range() | QRectF(QPointF(), room));
-    if (d->widget)
-        d->widget->setGeometry(QRectF(QPointF(), wanted));
-    d->physics->setRange(QRectF(QPointF(), room));
+    d->isExtentOutdated = false;
+    if (d->widget())
+        d->widget()->setGeometry(QRectF(QPointF(), wanted));
+    if (d->isExtentOutdated)
+        QCoreApplication::postEvent(this, new QEvent(QEvent::LayoutRequest));
+    else
+        d->physics->setRange(range);
     d->physics->setDirections(pannableDirections());
     d->indicator->setExtent(d->physics->range(), position());
     // Content without a place for the keyboard's focus is panned from the viewport itself.
-    const bool isTabStop = d->widget && !hasTabStop(d->widget) && pannableDirections();
+    const bool isTabStop = d->widget() && !hasTabStop(d->widget()) && pannableDirections();
     setFocusPolicy(isTabStop ? Qt::TabFocus : Qt::NoFocus);
+}
+
+bool MPannableViewport::event(QEvent *event)
+{
+    if (event->type() == QEvent::LayoutRequest)
+        updateExtent();
+    return MStylableWidget::event(event);
 }
 
 void MPannableViewport::paint(QPainter *painter, const QStyleOptionGraphicsItem *option,

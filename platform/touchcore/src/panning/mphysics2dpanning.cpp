@@ -3,11 +3,12 @@
 
 #include "panaxis.h"
 
+#include <touchcore/mphysics2dpanning.h>
+
 #include <QBasicTimer>
 #include <QElapsedTimer>
 #include <QTimerEvent>
 
-#include <touchcore/mphysics2dpanning.h>
 #include <vector>
 
 namespace

@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The daskel authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
+#include <touchcore/mpositionindicator.h>
+
 #include <QPainter>
 #include <QPropertyAnimation>
 #include <QTimer>
-
-#include <touchcore/mpositionindicator.h>
 
 class MPositionIndicatorPrivate
 {

@@ -3,6 +3,7 @@
 
 #include "panelayout.h"
 
+#include <QGraphicsWidget>
 #include <QWidget>
 
 PaneLayout::PaneLayout(QGraphicsLayoutItem *pane, const std::function<void()> &arrange)
@@ -11,19 +12,24 @@ PaneLayout::PaneLayout(QGraphicsLayoutItem *pane, const std::function<void()> &a
     setContentsMargins(0, 0, 0, 0);
 }
 
-void PaneLayout::setItem(QGraphicsLayoutItem *item)
+void PaneLayout::setWidget(QGraphicsWidget *widget)
 {
-    if (m_item)
-        m_item->setParentLayoutItem(nullptr);
-    m_item = item;
-    if (item)
-        addChildLayoutItem(item);
+    if (m_widget)
+        m_widget->setParentLayoutItem(nullptr);
+    m_widget = widget;
+    if (widget)
+        addChildLayoutItem(widget);
     invalidate();
+}
+
+QGraphicsLayoutItem *PaneLayout::itemAt(int index) const
+{
+    return index == 0 ? m_widget : nullptr;
 }
 
 void PaneLayout::removeAt(int)
 {
-    m_item = nullptr;
+    m_widget = nullptr;
     invalidate();
 }
 

@@ -16,10 +16,12 @@ public:
     PaneLayout(QGraphicsLayoutItem *pane, const std::function<void()> &arrange);
 
     /// Null takes the widget out.
-    void setItem(QGraphicsLayoutItem *item);
+    void setWidget(QGraphicsWidget *widget);
+    /// Null when there is none, or none any more: it was deleted or went to another layout.
+    QGraphicsWidget *widget() const { return m_widget; }
 
-    int count() const override { return m_item ? 1 : 0; }
-    QGraphicsLayoutItem *itemAt(int index) const override { return index == 0 ? m_item : nullptr; }
+    int count() const override { return m_widget ? 1 : 0; }
+    QGraphicsLayoutItem *itemAt(int index) const override;
     void removeAt(int index) override;
     void setGeometry(const QRectF &rect) override;
 
@@ -27,7 +29,7 @@ protected:
     QSizeF sizeHint(Qt::SizeHint which, const QSizeF &constraint) const override;
 
 private:
-    QGraphicsLayoutItem *m_item = nullptr;
+    QGraphicsWidget *m_widget = nullptr;
     std::function<void()> m_arrange;
 };
 

@@ -3,14 +3,14 @@
 
 #include "pangesture.h"
 
+#include <touchcore/mpannableviewport.h>
+#include <touchcore/mphysics2dpanning.h>
+
 #include <QCoreApplication>
 #include <QGraphicsProxyWidget>
 #include <QGraphicsScene>
 #include <QGraphicsSceneMouseEvent>
 #include <QWidget>
-
-#include <touchcore/mpannableviewport.h>
-#include <touchcore/mphysics2dpanning.h>
 
 namespace
 {
