@@ -149,10 +149,14 @@ void MWidget::keyPressEvent(QKeyEvent *event)
 QVariant MWidget::itemChange(GraphicsItemChange change, const QVariant &value)
 {
     const QVariant result = QGraphicsWidget::itemChange(change, value);
-    if (change == ItemParentHasChanged)
+    if (change == ItemParentHasChanged) {
+        // Qt hands the direction down in the constructor only.
+        if (!testAttribute(Qt::WA_SetLayoutDirection))
+            unsetLayoutDirection();
         updateDisplayState(this, isShownBelow(parentItem()));
-    else if (change == ItemVisibleHasChanged)
+    } else if (change == ItemVisibleHasChanged) {
         updateDisplayState(this, d->isBranchShown);
+    }
     return result;
 }
 
