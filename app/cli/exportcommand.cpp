@@ -55,9 +55,9 @@ bool collect(const Database &database, const QCommandLineParser &parser,
     return true;
 }
 
-bool write(const KCalCore::Incidence::List &incidences, QFileDevice *file, QString *error)
+bool write(mKCal::CalendarExporter &exporter, const KCalCore::Incidence::List &incidences,
+           QFileDevice *file, QString *error)
 {
-    mKCal::CalendarExporter exporter;
     if (!exporter.write(incidences, file)) {
         *error = exporter.errorMessage();
     } else if (!file->flush()) {
@@ -66,7 +66,8 @@ bool write(const KCalCore::Incidence::List &incidences, QFileDevice *file, QStri
     return error->isEmpty();
 }
 
-bool writeFile(const KCalCore::Incidence::List &incidences, const QString &fileName, QString *error)
+bool writeFile(mKCal::CalendarExporter &exporter, const KCalCore::Incidence::List &incidences,
+               const QString &fileName, QString *error)
 {
     // A device or a pipe is written to; a file is replaced by a whole one, or left as it was.
     const QFileInfo target(fileName);
@@ -77,13 +78,14 @@ bool writeFile(const KCalCore::Incidence::List &incidences, const QString &fileN
     if (target.exists() && !target.isFile()) {
         QFile device(fileName);
         if (device.open(QIODevice::WriteOnly)) {
-            return write(incidences, &device, error);
+            return write(exporter, incidences, &device, error);
         }
         *error = device.errorString();
         return false;
     }
     QSaveFile file(fileName);
-    if (file.open(QIODevice::WriteOnly) && write(incidences, &file, error) && file.commit()) {
+    if (file.open(QIODevice::WriteOnly) && write(exporter, incidences, &file, error)
+        && file.commit()) {
         return true;
     }
     if (error->isEmpty()) {
@@ -92,11 +94,12 @@ bool writeFile(const KCalCore::Incidence::List &incidences, const QString &fileN
     return false;
 }
 
-bool writeOut(const KCalCore::Incidence::List &incidences, QString *error)
+bool writeOut(mKCal::CalendarExporter &exporter, const KCalCore::Incidence::List &incidences,
+              QString *error)
 {
     QFile file;
     if (file.open(stdout, QIODevice::WriteOnly)) {
-        return write(incidences, &file, error);
+        return write(exporter, incidences, &file, error);
     }
     *error = file.errorString();
     return false;
@@ -110,9 +113,17 @@ ExitCode run(const QCommandLineParser &parser, Console &console)
         return Failed;
     }
     const QString fileName = parser.positionalArguments().value(0);
+    mKCal::CalendarExporter exporter;
+    // On standard output the calendar itself may be what the terminal shows.
+    if (!fileName.isNull()) {
+        exporter.setProgress(
+            [&console](qint64 done, qint64 total) { console.progress(done, total); });
+    }
     QString error;
-    if (fileName.isNull() ? writeOut(incidences, &error)
-                          : writeFile(incidences, fileName, &error)) {
+    const bool isWritten = fileName.isNull() ? writeOut(exporter, incidences, &error)
+                                             : writeFile(exporter, incidences, fileName, &error);
+    console.endProgress();
+    if (isWritten) {
         return Done;
     }
     console.message(fileName.isNull()

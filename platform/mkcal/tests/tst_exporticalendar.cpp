@@ -273,6 +273,18 @@ void ExportICalendarTest::orderAndRepetition()
     }
     const QByteArray text = exported(incidences);
     QCOMPARE(exported(incidences), text);
+
+    QVector<qint64> progress;
+    CalendarExporter exporter;
+    exporter.setProgress([&progress](qint64 done, qint64 total) {
+        progress.append(done);
+        QCOMPARE(total, qint64(600));
+    });
+    QBuffer file;
+    file.open(QIODevice::WriteOnly);
+    QVERIFY(exporter.write(incidences, &file));
+    QCOMPARE(progress, QVector<qint64>({250, 500, 600}));
+
     int last = -1;
     for (int i = 0; i < 600; ++i) {
         const int position = text.indexOf("\r\nUID:" + QByteArray::number(i) + "\r\n");

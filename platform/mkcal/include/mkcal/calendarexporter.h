@@ -8,6 +8,8 @@
 
 #include <QIODevice>
 
+#include <functional>
+
 namespace mKCal
 {
 /// Writes incidences as one iCalendar file (RFC 5545) with the time zones that they use. The live
@@ -15,11 +17,17 @@ namespace mKCal
 class CalendarExporter
 {
 public:
-    /// False when the device refused; errorMessage() says why.
+    /// @param done, total incidences.
+    using Progress = std::function<void(qint64 done, qint64 total)>;
+    void setProgress(const Progress &progress) { m_progress = progress; }
+
+    /// False when the device refused, or when one of them has no form in iCalendar; nothing is
+    /// written in the latter case. errorMessage() says why.
     bool write(const KCalCore::Incidence::List &incidences, QIODevice *device);
     QString errorMessage() const { return m_errorMessage; }
 
 private:
+    Progress m_progress;
     QString m_errorMessage;
 };
 

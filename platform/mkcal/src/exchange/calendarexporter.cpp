@@ -15,8 +15,6 @@
 #include <QTimeZone>
 #include <QVector>
 
-#include <algorithm>
-
 namespace mKCal
 {
 using KCalCore::Incidence;
@@ -61,8 +59,8 @@ QByteArray formatted(const Incidence::List &incidences)
     return KCalCore::ICalFormat().toString(scratch).toUtf8();
 }
 
-/// False when an incidence did not come out.
-bool writeBatch(const Incidence::List &incidences, Written *written)
+/// The incidence that did not come out; null when all did.
+Incidence::Ptr writeBatch(const Incidence::List &incidences, Written *written)
 {
     QByteArray bytes = formatted(incidences);
     QBuffer buffer(&bytes);
@@ -82,8 +80,7 @@ bool writeBatch(const Incidence::List &incidences, Written *written)
         components[index] = TextCarrier::afterWriting(component.text);
     }
     written->components += components;
-    return std::none_of(components.cbegin(), components.cend(),
-                        [](const QByteArray &it) { return it.isEmpty(); });
+    return incidences.value(components.indexOf(QByteArray()));
 }
 } // namespace
 
@@ -92,9 +89,14 @@ bool CalendarExporter::write(const Incidence::List &incidences, QIODevice *devic
     m_errorMessage.clear();
     Written written;
     for (int first = 0; first < incidences.size(); first += batchSize) {
-        if (!writeBatch(incidences.mid(first, batchSize), &written)) {
-            m_errorMessage = QStringLiteral("an incidence cannot be written as iCalendar");
+        const Incidence::Ptr refused = writeBatch(incidences.mid(first, batchSize), &written);
+        if (refused) {
+            m_errorMessage = QStringLiteral("'%1' (%2) cannot be written as iCalendar")
+                                 .arg(refused->summary(), refused->uid());
             return false;
+        }
+        if (m_progress) {
+            m_progress(written.components.size(), incidences.size());
         }
     }
     QByteArray text = header;
