@@ -3,14 +3,9 @@
 
 #include "stylefiller.h"
 
-#include <QMetaProperty>
-
 #include <touchcore/mstyle.h>
 
-namespace
-{
-const int maximumDepth = 16;
-} // namespace
+#include <QMetaProperty>
 
 StyleFiller::StyleFiller(const ThemeValues &values, M::Orientation orientation,
                          const QByteArray &mode, const std::function<void(const QString &)> &report)
@@ -24,29 +19,36 @@ void StyleFiller::applyClasses(const QMetaObject *widgetClass, MStyle *style) co
 {
     if (const QMetaObject *base = widgetClass->superClass())
         applyClasses(base, style);
-    const QString name = QString::fromLatin1(widgetClass->className());
-    applyRules(name, m_values.rules->classes.value(name), style);
+    applyRulesOf(QString::fromLatin1(widgetClass->className()), style);
+}
+
+void StyleFiller::applyRulesOf(const QString &className, MStyle *style) const
+{
+    applyRules(className, m_values.rules->classes.value(className), style);
 }
 
 void StyleFiller::applyNamed(const QString &name, MStyle *style) const
 {
-    applyNamed(name, style, 0);
+    if (m_values.rules->styles.contains(name))
+        applyChain({name}, style);
+    else
+        m_report(QStringLiteral("no theme has the style \"%1\"").arg(name));
 }
 
-void StyleFiller::applyNamed(const QString &name, MStyle *style, int depth) const
+void StyleFiller::applyChain(const QStringList &chain, MStyle *style) const
 {
+    const QString &name = chain.last();
     const QVector<ThemeRule> rules = m_values.rules->styles.value(name);
-    if (rules.isEmpty()) {
-        m_report(QStringLiteral("no theme has the style \"%1\"").arg(name));
-        return;
-    }
     QString base;
     for (const ThemeRule &rule : rules)
         base = rule.block.value(QLatin1String("extends")).toString(base);
-    if (depth == maximumDepth)
-        m_report(QStringLiteral("%1: the style \"%2\" extends itself").arg(rules[0].source, name));
+    if (chain.contains(base))
+        m_report(QStringLiteral("%1: the style \"%2\" extends itself").arg(rules[0].source, base));
+    else if (m_values.rules->styles.contains(base))
+        applyChain(chain + QStringList{base}, style);
     else if (!base.isEmpty())
-        applyNamed(base, style, depth + 1);
+        m_report(QStringLiteral("%1: %2 extends \"%3\", which no theme has")
+                     .arg(rules[0].source, name, base));
     applyRules(name, rules, style);
 }
 
@@ -75,7 +77,7 @@ void StyleFiller::applyAttribute(const QString &place, const QString &name, cons
 {
     const QMetaObject *meta = style->metaObject();
     const int index = meta->indexOfProperty(name.toLatin1());
-    if (index < 0) {
+    if (index < MStyle::staticMetaObject.propertyCount()) {
         m_report(QStringLiteral("%1: %2 has no attribute \"%3\"")
                      .arg(place, QString::fromLatin1(meta->className()), name));
         return;

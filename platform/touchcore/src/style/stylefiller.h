@@ -6,8 +6,9 @@
 
 #include "themevalues.h"
 
-#include <functional>
 #include <touchcore/mnamespace.h>
+
+#include <functional>
 
 class MStyle;
 struct QMetaObject;
@@ -22,11 +23,14 @@ public:
 
     /// The rules of the widget's classes, base first.
     void applyClasses(const QMetaObject *widgetClass, MStyle *style) const;
+    /// The rules of one class alone.
+    void applyRulesOf(const QString &className, MStyle *style) const;
     /// The rules of a style name, after those that it extends.
     void applyNamed(const QString &name, MStyle *style) const;
 
 private:
-    void applyNamed(const QString &name, MStyle *style, int depth) const;
+    /// The last style of \a chain, after what it extends; those before it are its heirs.
+    void applyChain(const QStringList &chain, MStyle *style) const;
     void applyRules(const QString &name, const QVector<ThemeRule> &rules, MStyle *style) const;
     void applyBlock(const QString &place, const QJsonObject &block, MStyle *style) const;
     void applyAttribute(const QString &place, const QString &name, const QJsonValue &value,
