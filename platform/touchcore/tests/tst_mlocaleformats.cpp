@@ -265,6 +265,8 @@ void TestMLocaleFormats::writesFieldsInTheirUsualOrder_data()
     QTest::newRow("fi_FI") << QStringLiteral("fi_FI") << QStringLiteral("maaliskuu 2027");
     QTest::newRow("ar_EG") << QStringLiteral("ar_EG") << QStringLiteral("مارس ٢٠٢٧");
     QTest::newRow("ja_JP") << QStringLiteral("ja_JP") << QStringLiteral("2027年3月");
+    QTest::newRow("fa_IR, in its own calendar")
+        << QStringLiteral("fa_IR") << QStringLiteral("اسفند ۱۴۰۵");
     QTest::newRow("zh_TW") << QStringLiteral("zh_TW") << QStringLiteral("2027年3月");
 }
 

@@ -18,7 +18,8 @@ class MImageWidgetStyle : public MWidgetStyle
     M_STYLE_ATTRIBUTE(QSizeF, imageSize, setImageSize)
 };
 
-/// A picture of the theme, as large as fits with its proportions kept, centred.
+/// A picture of the theme in the middle of the widget. Where there is less room than it wants it is
+/// made smaller, with its proportions kept.
 class MImageWidget : public MStylableWidget
 {
     Q_OBJECT
@@ -47,6 +48,8 @@ protected:
     QSizeF sizeHint(Qt::SizeHint which, const QSizeF &constraint = QSizeF()) const override;
 
 private:
+    QSizeF shownSize() const;
+
     std::unique_ptr<MImageWidgetPrivate> d;
 };
 

@@ -138,9 +138,11 @@ QString MLocaleFormats::patternFor(const QString &skeleton) const
     auto found = m_skeletonPatterns.find(skeleton);
     if (found != m_skeletonPatterns.end())
         return found->second;
+    // For other calendars CLDR has few patterns without an era; the usual order of the fields is
+    // that of the Gregorian ones.
     UErrorCode error = U_ZERO_ERROR;
     const std::unique_ptr<icu::DateTimePatternGenerator> generator(
-        icu::DateTimePatternGenerator::createInstance(m_locale, error));
+        icu::DateTimePatternGenerator::createInstance(localeOf(MLocale::GregorianCalendar), error));
     QString pattern;
     if (U_SUCCESS(error))
         pattern = fromIcu(generator->getBestPattern(toIcu(skeleton), error));

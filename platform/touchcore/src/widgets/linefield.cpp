@@ -5,15 +5,31 @@
 
 #include <QFocusEvent>
 #include <QFontMetrics>
+#include <QSignalBlocker>
 
 LineField::LineField() : m_edit(new QLineEdit)
 {
     m_edit->setFrame(false);
     m_edit->setDragEnabled(false);
     m_edit->installEventFilter(this);
-    connect(m_edit, &QLineEdit::textChanged, this, &TextField::textChanged);
+    connect(m_edit, &QLineEdit::textChanged, this, [this] {
+        dropHalfCharacter();
+        Q_EMIT textChanged();
+    });
     connect(m_edit, &QLineEdit::returnPressed, this, &TextField::returnPressed);
     connect(m_edit, &QLineEdit::editingFinished, this, &TextField::editingFinished);
+}
+
+void LineField::dropHalfCharacter()
+{
+    // Qt cuts a text that is too long between two UTF-16 units.
+    const QString text = m_edit->text();
+    const int end = m_edit->cursorPosition();
+    if (end > 0 && text[end - 1].isHighSurrogate()
+        && (end == text.size() || !text[end].isLowSurrogate())) {
+        const QSignalBlocker once(m_edit);
+        m_edit->backspace();
+    }
 }
 
 void LineField::setText(const QString &text)
@@ -37,6 +53,11 @@ bool LineField::eventFilter(QObject *watched, QEvent *event)
     return TextField::eventFilter(watched, event);
 }
 
+void LineField::setCursorPosition(int position)
+{
+    m_edit->setCursorPosition(qBound(0, position, m_edit->text().size()));
+}
+
 void LineField::selectWordAt(const QPoint &position)
 {
     m_edit->setCursorPosition(m_edit->cursorPositionAt(position));
@@ -44,6 +65,8 @@ void LineField::selectWordAt(const QPoint &position)
     m_edit->cursorWordForward(true);
     // The blanks behind a word are not part of it.
     const QString selected = m_edit->selectedText();
+    if (selected.isEmpty())
+        return;
     int blanks = 0;
     while (blanks < selected.size() && selected[selected.size() - 1 - blanks].isSpace())
         ++blanks;

@@ -26,7 +26,7 @@ public:
     void setEchoMode(QLineEdit::EchoMode mode) override { m_edit->setEchoMode(mode); }
 
     int cursorPosition() const override { return m_edit->cursorPosition(); }
-    void setCursorPosition(int position) override { m_edit->setCursorPosition(position); }
+    void setCursorPosition(int position) override;
     QString selectedText() const override { return m_edit->selectedText(); }
     void selectWordAt(const QPoint &position) override;
     bool isSelectedAt(const QPoint &position) const override;
@@ -45,6 +45,8 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void dropHalfCharacter();
+
     QLineEdit *m_edit;
 };
 

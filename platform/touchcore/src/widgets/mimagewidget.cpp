@@ -18,6 +18,7 @@ MImageWidget::MImageWidget(const QString &id, QGraphicsItem *parent)
     : MStylableWidget(parent), d(std::make_unique<MImageWidgetPrivate>())
 {
     d->image = MScalableImage(id);
+    setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Maximum);
 }
 
 MImageWidget::~MImageWidget() = default;
@@ -55,12 +56,19 @@ void MImageWidget::paint(QPainter *painter, const QStyleOptionGraphicsItem *opti
     if (d->image.isNull())
         return;
     const QRectF room = contentsRectangle();
-    const QSizeF natural =
-        style()->imageSize().isEmpty() ? d->image.naturalSize() : style()->imageSize();
-    const QSizeF size =
-        natural.isEmpty() ? room.size() : natural.scaled(room.size(), Qt::KeepAspectRatio);
+    QSizeF size = shownSize();
+    if (size.width() > room.width() || size.height() > room.height())
+        size.scale(room.size(), Qt::KeepAspectRatio);
     drawIcon(painter, d->image, centered(size, room), style()->tint(),
              d->isMirrored && layoutDirection() == Qt::RightToLeft);
+}
+
+QSizeF MImageWidget::shownSize() const
+{
+    if (d->image.isNull())
+        return {0, 0};
+    return style()->imageSize().isEmpty() ? d->image.naturalSize().expandedTo({0, 0})
+                                          : style()->imageSize();
 }
 
 QSizeF MImageWidget::sizeHint(Qt::SizeHint which, const QSizeF &constraint) const
@@ -68,9 +76,7 @@ QSizeF MImageWidget::sizeHint(Qt::SizeHint which, const QSizeF &constraint) cons
     const QSizeF styled = MStylableWidget::sizeHint(which, constraint);
     if (which != Qt::PreferredSize || layout())
         return styled;
-    QSizeF shown = style()->imageSize();
-    if (shown.isEmpty())
-        shown = d->image.isNull() ? QSizeF(0, 0) : d->image.naturalSize().expandedTo({0, 0});
+    const QSizeF shown = shownSize();
     const QMarginsF around = style()->margins() + style()->paddings();
     const QSizeF own = style()->preferredSize();
     return {own.width() >= 0 ? own.width() : shown.width() + around.left() + around.right(),

@@ -217,6 +217,8 @@ void MLabel::applyStyle()
 {
     d->isPrepared = false;
     MStylableWidget::applyStyle();
+    // The marks of some scripts reach beyond lines that are made for Latin letters.
+    setOverhang(qMax(style()->shadow(), qCeil(style()->font().pixelSize() / 4.0)));
 }
 
 QSizeF MLabel::sizeHint(Qt::SizeHint which, const QSizeF &constraint) const

@@ -31,7 +31,7 @@ class MProgressIndicatorViewPrivate
 {
 public:
     QBasicTimer timer;
-    qreal phase = 0;
+    qreal phase = 0.3; ///< something is to be seen from the first frame on
 };
 
 MProgressIndicatorView::MProgressIndicatorView(MProgressIndicator *indicator)

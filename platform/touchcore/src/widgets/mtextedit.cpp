@@ -26,6 +26,8 @@ MTextEdit::MTextEdit(LineMode mode, QGraphicsItem *parent)
     field->widget()->installEventFilter(this);
     if (field->touched() != field->widget())
         field->touched()->installEventFilter(this);
+    // Only what could have the focus itself hands it on.
+    setFlag(ItemIsFocusable);
     setFocusProxy(d->proxy);
     QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     policy.setHeightForWidth(mode == MultiLine);
@@ -252,12 +254,6 @@ bool MTextEdit::eventFilter(QObject *watched, QEvent *event)
         if (watched == d->field->touched())
             d->takeFocus();
         break;
-    case QEvent::ContextMenu: {
-        const auto *menu = static_cast<QContextMenuEvent *>(event);
-        if (watched == d->field->touched() || menu->reason() == QContextMenuEvent::Keyboard)
-            d->openMenu(menu->pos(), menu->reason() == QContextMenuEvent::Keyboard);
-        return true;
-    }
     default:
         break;
     }

@@ -10,6 +10,7 @@
 #include <QClipboard>
 #include <QCoreApplication>
 #include <QGraphicsProxyWidget>
+#include <QGraphicsSceneContextMenuEvent>
 #include <QGuiApplication>
 #include <QInputMethod>
 #include <QMimeData>
@@ -43,6 +44,31 @@ public:
     {
         return metric == PM_TextCursorWidth ? 2 : QProxyStyle::pixelMetric(metric, option, widget);
     }
+};
+
+/// Shows the widget, and has a menu of its own also while it has not the focus.
+class FieldProxy : public QGraphicsProxyWidget
+{
+public:
+    explicit FieldProxy(MTextEditPrivate *owner)
+        : QGraphicsProxyWidget(owner->q), m_owner(owner) { }
+
+protected:
+    void focusInEvent(QFocusEvent *event) override
+    {
+        QGraphicsProxyWidget::focusInEvent(event);
+        // Qt hands the focus on only to a widget that had it before.
+        if (!widget()->hasFocus())
+            widget()->setFocus(event->reason());
+    }
+    void contextMenuEvent(QGraphicsSceneContextMenuEvent *event) override
+    {
+        m_owner->openMenu(event->pos().toPoint(),
+                          event->reason() == QGraphicsSceneContextMenuEvent::Keyboard);
+    }
+
+private:
+    MTextEditPrivate *m_owner;
 };
 
 QStyle *fieldStyle()
@@ -81,7 +107,8 @@ bool canCut(const TextField &field)
 
 bool canPaste(const TextField &field)
 {
-    return !field.isReadOnly() && QGuiApplication::clipboard()->mimeData()->hasText();
+    const QMimeData *clipboard = QGuiApplication::clipboard()->mimeData();
+    return !field.isReadOnly() && clipboard && clipboard->hasText();
 }
 
 bool canSelectAll(const TextField &field)
@@ -111,11 +138,12 @@ MTextEditPrivate::MTextEditPrivate(MTextEdit *edit, MTextEdit::LineMode lineMode
     QWidget *widget = field->widget();
     widget->setStyle(fieldStyle());
     widget->setAttribute(Qt::WA_TranslucentBackground);
-    // A press may become a pan: the focus comes with the release.
     widget->setFocusPolicy(Qt::TabFocus);
     widget->setAcceptDrops(false);
-    proxy = new QGraphicsProxyWidget(q);
+    proxy = new FieldProxy(this);
     proxy->setWidget(widget);
+    // A press may become a pan: the focus comes with the release.
+    proxy->setFocusPolicy(Qt::TabFocus);
     proxy->setMinimumSize(0, 0);
 }
 

@@ -4,6 +4,7 @@
 #include "richtext.h"
 
 #include <QAbstractTextDocumentLayout>
+#include <QImage>
 #include <QPainter>
 #include <QStyle>
 #include <QTextBlock>
@@ -82,7 +83,11 @@ QString RichText::linkAt(const QPointF &position) const
     return documentLayout()->anchorAt(position);
 }
 
-QVariant RichText::loadResource(int, const QUrl &)
+QVariant RichText::loadResource(int type, const QUrl &)
 {
-    return {};
+    // Without a picture, Qt would look for a file of that name itself.
+    if (type != ImageResource)
+        return {};
+    static const QImage nothing(1, 1, QImage::Format_Alpha8);
+    return nothing;
 }
