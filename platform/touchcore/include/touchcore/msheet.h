@@ -39,8 +39,14 @@ public:
     /// Owned by the sheet, which deletes the one before; null leaves the sheet empty.
     void setCentralWidget(QGraphicsWidget *widget);
 
-    /// Triggers the action to cancel; without one the sheet is dismissed.
+    /// Triggers the action to cancel; without one, backRequested() decides or the sheet is
+    /// dismissed.
     void goBack() override;
+
+Q_SIGNALS:
+    /// The person wants to leave a sheet that has no action to cancel. When something is connected
+    /// here, the sheet stays and that decides.
+    void backRequested();
 
 protected:
     QRectF place(const QSizeF &area) const override;

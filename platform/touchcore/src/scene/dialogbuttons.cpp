@@ -15,6 +15,13 @@ DialogButtons::DialogButtons(QGraphicsItem *parent) : QGraphicsWidget(parent)
     setSizePolicy(policy);
 }
 
+DialogButtons::~DialogButtons()
+{
+    // They go after the list that their going would change.
+    for (MButton *button : qAsConst(m_buttons))
+        button->disconnect(this);
+}
+
 void DialogButtons::add(MButton *button)
 {
     button->setParentItem(this);
@@ -22,6 +29,7 @@ void DialogButtons::add(MButton *button)
     connect(button, &QObject::destroyed, this, [this, button] {
         m_buttons.removeOne(button);
         updateGeometry();
+        arrange();
     });
     updateGeometry();
     arrange();

@@ -16,6 +16,7 @@ class DialogButtons : public QGraphicsWidget
 
 public:
     explicit DialogButtons(QGraphicsItem *parent);
+    ~DialogButtons() override;
 
     void add(MButton *button);
     QList<MButton *> buttons() const { return m_buttons; }

@@ -63,7 +63,10 @@ void MObjectMenuPrivate::addRow(QAction *action)
     showAction(row, icon, label, action);
     QObject::connect(action, &QAction::changed, row,
                      [this, row, icon, label, action] { showAction(row, icon, label, action); });
-    QObject::connect(action, &QObject::destroyed, row, [row] { row->hide(); });
+    QObject::connect(action, &QObject::destroyed, row, [this, row] {
+        row->hide();
+        q->updateGeometry();
+    });
     QObject::connect(row, &MListItem::clicked, action, [this, action] { trigger(action); });
 }
 
@@ -78,6 +81,8 @@ void MObjectMenuPrivate::showAction(MListItem *row, MImageWidget *icon, MLabel *
     label->setText(action->iconText());
     row->setEnabled(action->isEnabled());
     row->setVisible(action->isVisible());
+    // The viewport between does not tell that its contents changed.
+    q->updateGeometry();
 }
 
 void MObjectMenuPrivate::trigger(QAction *action)

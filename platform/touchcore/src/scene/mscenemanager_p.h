@@ -35,8 +35,8 @@ public:
     void update();
     /// Gives the top window's panel the focus, which an inactive window refused.
     void activateTop();
-    /// Gives the focus to the first widget of the top window, or the last; answers false when
-    /// something has it already.
+    /// Gives the focus to the first widget of the top window, or the last; answers false when one
+    /// has it already.
     bool tabInto(bool isForward);
 
     MSceneManager *const q;

@@ -14,6 +14,10 @@
 MSceneWindow::MSceneWindow(Layer layer, QGraphicsItem *parent)
     : MStylableWidget(parent), d(std::make_unique<MSceneWindowPrivate>(layer))
 {
+    // It takes keys when none of its widgets does; it is no stop of the Tab key.
+    setFlag(ItemIsFocusable);
+    // The size is that of place(), even where contents that cannot grow would limit it.
+    setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
 }
 
 MSceneWindow::~MSceneWindow()

@@ -7,6 +7,7 @@
 #include <touchcore/msheet.h>
 
 #include <QAction>
+#include <QMetaMethod>
 #include <QPointer>
 
 class MSheetPrivate
@@ -115,10 +116,15 @@ void MSheet::setCentralWidget(QGraphicsWidget *widget)
 
 void MSheet::goBack()
 {
-    if (d->cancelAction)
-        d->cancelAction->trigger();
-    else
+    if (d->cancelAction) {
+        // A disabled action can be triggered all the same.
+        if (d->cancelAction->isEnabled())
+            d->cancelAction->trigger();
+    } else if (isSignalConnected(QMetaMethod::fromSignal(&MSheet::backRequested))) {
+        Q_EMIT backRequested();
+    } else {
         dismiss();
+    }
 }
 
 QRectF MSheet::place(const QSizeF &area) const

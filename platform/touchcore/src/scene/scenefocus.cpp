@@ -108,17 +108,20 @@ void MSceneManagerPrivate::giveFocus()
     if (isByKeyboard && (!target || !target->isVisible()))
         target = tabStop(focusWindow, true);
     QGraphicsScene *scene = window->scene();
-    const bool isRingMissing = isByKeyboard && scene->focusItem() == target;
-    if (!target || isRingMissing || !focusWindow->isAncestorOf(scene->focusItem()))
+    // It may have the focus already, but not show it.
+    if (isByKeyboard && scene->focusItem() == target)
         scene->setFocusItem(nullptr);
     if (target)
         target->setFocus(isByKeyboard ? Qt::TabFocusReason : Qt::ActiveWindowFocusReason);
+    else
+        focusWindow->setFocus(Qt::ActiveWindowFocusReason);
 }
 
 bool MSceneManagerPrivate::tabInto(bool isForward)
 {
     QGraphicsWidget *stop = focusWindow ? tabStop(focusWindow, isForward) : nullptr;
-    if (!stop || window->scene()->focusItem())
+    const QGraphicsItem *focused = window->scene()->focusItem();
+    if (!stop || (focused && focused != focusWindow))
         return false;
     stop->setFocus(isForward ? Qt::TabFocusReason : Qt::BacktabFocusReason);
     return true;
