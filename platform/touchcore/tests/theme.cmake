@@ -13,6 +13,8 @@ target_sources(tst_mdesktopscheme PRIVATE fakeportal.h)
 target_link_libraries(tst_mdesktopscheme PRIVATE Qt5::DBus)
 target_include_directories(tst_mdesktopscheme PRIVATE ${PROJECT_SOURCE_DIR}/platform/systemtime/tests)
 
+include(readme.cmake)
+
 # A theme that lies where it would be installed beside the test.
 file(CONFIGURE OUTPUT ${CMAKE_CURRENT_BINARY_DIR}/../share/daskel/themes/installed/theme.json
     CONTENT "{\"measures\": {\"installedProbe\": 1, \"installedOther\": 7}}\n")
