@@ -16,6 +16,7 @@ namespace
 {
 const QString jsonOption = QStringLiteral("json");
 const QString notebookKey = QStringLiteral("notebook");
+const QString endKey = QStringLiteral("end");
 
 void declare(QCommandLineParser &parser)
 {
@@ -96,6 +97,20 @@ QString valueText(const QJsonValue &value)
     }
 }
 
+/// For people: the name of the notebook for its UID, and the last day of an all-day event where
+/// JSON has the day after it.
+QJsonObject readable(QJsonObject object, mKCal::ExtendedStorage &storage)
+{
+    if (const auto notebook = storage.notebook(object.value(notebookKey).toString())) {
+        object.insert(notebookKey, notebook->name());
+    }
+    const QDate end = QDate::fromString(object.value(endKey).toString(), Qt::ISODate);
+    if (object.value(QStringLiteral("allDay")).toBool() && end.isValid()) {
+        object.insert(endKey, end.addDays(-1).toString(Qt::ISODate));
+    }
+    return object;
+}
+
 void print(const QJsonObject &object, QTextStream &out)
 {
     constexpr int nameWidth = 17;
@@ -173,12 +188,7 @@ ExitCode run(const QCommandLineParser &parser, Console &console)
     }
     for (int i = 0; i < array.size(); ++i) {
         console.out() << (i > 0 ? "\n" : "");
-        QJsonObject object = array.at(i).toObject();
-        const auto notebook = database.storage()->notebook(object.value(notebookKey).toString());
-        if (notebook) {
-            object.insert(notebookKey, notebook->name());
-        }
-        print(object, console.out());
+        print(readable(array.at(i).toObject(), *database.storage()), console.out());
     }
     return Done;
 }

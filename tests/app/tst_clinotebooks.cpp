@@ -211,6 +211,8 @@ void TestCliNotebooks::show()
     const QJsonObject market = toArray(cli.run({"show", "market", "--json"}).out).at(1).toObject();
     QCOMPARE(market.value("recurrenceId").toString(), "2026-06-10");
     QCOMPARE(market.value("end").toString(), "2026-06-12");
+    // People are told the last day.
+    QVERIFY(cli.run({"show", "market"}).out.contains("end              2026-06-11\n"));
     QCOMPARE(market.value("zone"), QJsonValue());
 
     const CliResult missing = cli.run({"show", "nix"});
