@@ -107,12 +107,16 @@ bool writeOut(mKCal::CalendarExporter &exporter, const KCalCore::Incidence::List
 
 ExitCode run(const QCommandLineParser &parser, Console &console)
 {
+    const QString fileName = parser.positionalArguments().value(0);
+    if (!fileName.isNull() && fileName.isEmpty()) {
+        console.message(QStringLiteral("the name of the file is empty"));
+        return WrongUsage;
+    }
     const Database database(console);
     KCalCore::Incidence::List incidences;
     if (!database.isOpen() || !collect(database, parser, &incidences, console)) {
         return Failed;
     }
-    const QString fileName = parser.positionalArguments().value(0);
     mKCal::CalendarExporter exporter;
     // On standard output the calendar itself may be what the terminal shows.
     if (!fileName.isNull()) {

@@ -41,6 +41,11 @@ void tell(const char *whatBecame, const QVector<mKCal::ImportReport::Skipped> &c
 
 ExitCode run(const QCommandLineParser &parser, Console &console)
 {
+    const QStringList files = parser.positionalArguments();
+    if (files.contains(QString())) {
+        console.message(QStringLiteral("the name of a file is empty"));
+        return WrongUsage;
+    }
     const Database database(console);
     if (!database.isOpen()) {
         return Failed;
@@ -58,7 +63,7 @@ ExitCode run(const QCommandLineParser &parser, Console &console)
         return true;
     });
     mKCal::ImportReport report;
-    const bool stored = importer.importFiles(parser.positionalArguments(), &report);
+    const bool stored = importer.importFiles(files, &report);
     console.endProgress();
     tell("skipped", report.skipped, console);
     if (!stored) {

@@ -74,6 +74,8 @@ void TestCli::wrongUsage_data()
     row({"check", "now"}, "check: 'now' is too much; see 'daskel check --help'");
     row({"check", "--repair", ""}, "check: --repair needs the name of a new file");
     row({"import"}, "import: no file given; see 'daskel import --help'");
+    row({"import", ""}, "import: the name of a file is empty");
+    row({"export", ""}, "export: the name of the file is empty");
     row({"export", "a", "b"}, "export: 'b' is too much; see 'daskel export --help'");
     row({"show"}, "show: no UID given; see 'daskel show --help'");
     row({"search", " "}, "search: no text given");
