@@ -39,7 +39,7 @@ export TZ=$zone
 
 # Runs a command on the database and shows how it is called.
 show() {
-    echo "\$ daskel $*"
+    echo "\$ daskel $*" | sed "s/#[0-9A-F]*/'&'/"
     "$daskel" --data "$data" "$@"
     echo
 }
