@@ -81,7 +81,13 @@ MWidget::MWidget(QGraphicsItem *parent)
     d->isBranchShown = isShownBelow(parent);
 }
 
-MWidget::~MWidget() = default;
+/// While a QGraphicsWidget goes, it tells what it thinks is its parent that its size changed: a parent
+/// that laid it out by hand, without a layout, is no longer there then.
+MWidget::~MWidget()
+{
+    if (parentLayoutItem() && !parentLayoutItem()->isLayout())
+        setParentLayoutItem(nullptr);
+}
 
 bool MWidget::isOnDisplay() const
 {
