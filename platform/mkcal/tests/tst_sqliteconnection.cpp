@@ -21,6 +21,7 @@ private Q_SLOTS:
     void bindsAndReads_data();
     void bindsAndReads();
     void transactionIsUndoneUnlessCommitted();
+    void lockedDatabase();
     void fullDisk();
     void readsWithoutWriting();
 
@@ -108,6 +109,19 @@ void TestSqliteConnection::transactionIsUndoneUnlessCommitted()
     QCOMPARE(rows(m_connection), 1);
 }
 
+void TestSqliteConnection::lockedDatabase()
+{
+    Connection other;
+    QVERIFY(other.open(m_file));
+    const Transaction theirs(other);
+    QVERIFY(theirs.isActive());
+    sqlite3_busy_timeout(m_connection.handle(), 0);
+    Transaction ours(m_connection);
+    QVERIFY(!ours.isActive());
+    QVERIFY(!ours.commit());
+    QCOMPARE(m_connection.errorCodes(), QList<int>{SQLITE_BUSY});
+}
+
 void TestSqliteConnection::fullDisk()
 {
     QVERIFY(m_connection.execute("PRAGMA max_page_count = 20"));
@@ -140,6 +154,9 @@ void TestSqliteConnection::readsWithoutWriting()
     QCOMPARE(rows(reading), 1);
     QVERIFY(!reading.execute("INSERT INTO T VALUES (2)"));
     QCOMPARE(reading.lastError().primary, SQLITE_READONLY);
+    reading.close();
+    QVERIFY(!reading.execute("SELECT 1"));
+    QVERIFY(!Statement(reading, "SELECT 1").run());
 }
 
 QTEST_GUILESS_MAIN(TestSqliteConnection)
