@@ -3,6 +3,6 @@
 
 daskel_add_test(tst_listrows LINK tarvotouchcore)
 target_include_directories(tst_listrows PRIVATE ${PROJECT_SOURCE_DIR}/platform/touchcore/src)
-foreach(test tst_mlist)
+foreach(test tst_mlist tst_mlistgrowing tst_mlistinput)
     daskel_add_test(${test} SOURCES listscreen.h LINK tarvotouchcore)
 endforeach()

@@ -38,11 +38,13 @@ MListPrivate::MListPrivate(MList *owner)
 
 MListPrivate::~MListPrivate()
 {
-    // Before the list is no layout item any more, which the cells would ask.
     viewportContext.reset();
     modelContext.reset();
-    for (const ListCell &cell : cells)
+    for (const ListCell &cell : cells) {
+        // Qt takes for granted that who has a layout item above it has a parent.
+        cell.widget->setParentLayoutItem(nullptr);
         delete cell.widget;
+    }
     cells.clear();
     cellRecycler.clear();
     headerRecycler.clear();
@@ -239,6 +241,10 @@ bool MList::event(QEvent *event)
         // Also what a cell sends whose size hints changed.
         for (const ListCell &cell : d->cells)
             d->rows.heights.forget(cell.row, 1);
+        // An earlier request may arrive before the viewport knows of the rows: it has to move
+        // first.
+        if (d->haveRowsChanged && d->viewport)
+            d->viewport->updateExtent();
         d->layOut();
     }
     return MStylableWidget::event(event);
@@ -321,10 +327,10 @@ void MList::keyReleaseEvent(QKeyEvent *event)
     d->tap(index);
 }
 
-/// The ring runs around the current row: one around all rows would hardly be in view.
+/// Instead of the base's: the ring runs around the current row, as one around all rows would hardly
+/// be in view.
 void MList::focusInEvent(QFocusEvent *event)
 {
-    MWidget::focusInEvent(event);
     const bool isFromKeyboard =
         event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
     if (event->reason() == Qt::MouseFocusReason)
@@ -339,12 +345,11 @@ void MList::focusInEvent(QFocusEvent *event)
     d->updateFocusRing();
 }
 
-void MList::focusOutEvent(QFocusEvent *event)
+void MList::focusOutEvent(QFocusEvent *)
 {
     delete d->focusRing;
     d->pressed = QModelIndex();
     d->cancelKey();
-    MWidget::focusOutEvent(event);
 }
 
 void MList::applyStyle()

@@ -51,6 +51,8 @@ public:
     void layOut();
     /// The header that stands at \a top though its own place is above; -1 if none does.
     int stuckHeader(qreal top) const;
+    /// Finds the rows of all cells anew; gives up the cells of those that went.
+    void relocateCells();
     /// Null when the row has none: it is not in view.
     ListCell *cellOfRow(int row);
     const ListCell *cellOfWidget(const QGraphicsItem *widget) const;
@@ -115,7 +117,6 @@ private:
     };
 
     void layOutOnce();
-    void relocateCells();
     Anchor anchorIn(const QRectF &view) const;
     void recycleOutside(qreal top, qreal bottom);
     bool makeCells(qreal top, qreal bottom);

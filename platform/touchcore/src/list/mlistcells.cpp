@@ -71,30 +71,29 @@ void MListPrivate::layOut()
 
 void MListPrivate::layOutOnce()
 {
-    relocateCells();
     if (rows.count() == 0)
         return;
     const QRectF view = seen();
     const Anchor anchor = anchorIn(view);
     haveRowsChanged = false;
-    qreal top = view.top();
+    const auto aimedTop = [&] { return rows.heights.top(anchor.row) + anchor.offset; };
     do {
-        top = rows.heights.top(anchor.row) + anchor.offset;
-        recycleOutside(top, top + view.height());
-    } while (makeCells(top, top + view.height()));
+        recycleOutside(aimedTop(), aimedTop() + view.height());
+    } while (makeCells(aimedTop(), aimedTop() + view.height()));
+    const qreal top = aimedTop();
     placeCells(top);
-    if (toldHeight != rows.heights.total())
+    if (toldHeight != rows.heights.total()) {
         tellHeight();
-    if (viewport && top != view.top()) {
-        viewport->updateExtent();
-        viewport->setPosition(viewport->position() + QPointF(0, top - view.top()));
+        // Rows that come in later are then all that the next growth consists of.
+        if (viewport)
+            viewport->updateExtent();
     }
+    if (viewport && top != view.top())
+        viewport->setPosition(viewport->position() + QPointF(0, top - view.top()));
 }
 
 void MListPrivate::relocateCells()
 {
-    if (!haveRowsChanged)
-        return;
     for (ListCell &cell : cells) {
         cell.row = rows.row(cell.index);
         if (cell.row < 0)
@@ -230,6 +229,7 @@ void MListPrivate::recycle(const ListCell &cell)
         q->setFocus(Qt::OtherFocusReason);
     if (keyReceiver == cell.widget)
         cancelKey();
+    cell.widget->setParentLayoutItem(nullptr);
     creatorOf(cell.isHeader).cellRecycled(cell.widget);
     (cell.isHeader ? headerRecycler : cellRecycler).recycle(cell.widget);
 }

@@ -59,6 +59,7 @@ void MListPrivate::rebuildRows()
 void MListPrivate::rowsChanged()
 {
     haveRowsChanged = true;
+    relocateCells();
     tellHeight();
 }
 
