@@ -20,7 +20,7 @@ int offsetBefore(const QDateTime &asUtc, const QTimeZone &zone)
 
 QDateTime atWallClock(const QDate &date, const QTime &time, const QTimeZone &zone)
 {
-    const QDateTime shown(date, time, zone);
+    QDateTime shown(date, time, zone);
     if (shown.isValid()) {
         return KCalCompat::firstPass(shown);
     }
