@@ -6,20 +6,23 @@
 const QVector<GalleryPage> &galleryPages()
 {
     static const QVector<GalleryPage> pages{
-        {"buttons", "Buttons", makeButtonsPage, nullptr, false},
-        {"labels", "Labels", makeLabelsPage, nullptr, false},
-        {"text", "Text", makeTextPage, nullptr, false},
-        {"icons", "Icons", makeIconsPage, nullptr, false},
-        {"list", "List of 10,000 rows", makeListPage, nullptr, true},
-        {"endless-list", "List that grows at both ends", makeEndlessListPage, nullptr, true},
-        {"layouts", "Layouts", makeLayoutsPage, nullptr, false},
-        {"dialogs", "Dialogs, sheets, banners", makeDialogsPage, nullptr, false},
-        {"dialog", "Dialog", makeLabelsPage, openDialog, false},
-        {"question", "Question", makeLabelsPage, openQuestion, false},
-        {"long-question", "Long question", makeLabelsPage, openLongQuestion, false},
-        {"sheet", "Sheet", makeLabelsPage, openSheet, false},
-        {"banner", "Banner", makeLabelsPage, openBanner, false},
-        {"undo-banner", "Banner with undo", makeLabelsPage, openUndoBanner, false},
+        {"buttons", "Buttons", makeButtonsPage, nullptr},
+        {"labels", "Labels", makeLabelsPage, nullptr},
+        {"text", "Text", makeTextPage, nullptr},
+        {"date", "Date", makeDatePage, nullptr},
+        {"time", "Time", makeTimePage, nullptr},
+        {"choices", "Choices and amounts", makeChoicesPage, nullptr},
+        {"icons", "Icons", makeIconsPage, nullptr},
+        {"list", "List of 10,000 rows", makeListPage, nullptr},
+        {"endless-list", "List that grows at both ends", makeEndlessListPage, nullptr},
+        {"layouts", "Layouts", makeLayoutsPage, nullptr},
+        {"dialogs", "Dialogs, sheets, banners", makeDialogsPage, nullptr},
+        {"dialog", "Dialog", makeLabelsPage, openDialog},
+        {"question", "Question", makeLabelsPage, openQuestion},
+        {"long-question", "Long question", makeLabelsPage, openLongQuestion},
+        {"sheet", "Sheet", makeLabelsPage, openSheet},
+        {"banner", "Banner", makeLabelsPage, openBanner},
+        {"undo-banner", "Banner with undo", makeLabelsPage, openUndoBanner},
     };
     return pages;
 }

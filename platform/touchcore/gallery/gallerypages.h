@@ -17,8 +17,6 @@ struct GalleryPage {
     QGraphicsWidget *(*makeContent)();
     /// What appears above the page, such as a dialog; null when there is nothing.
     void (*open)(MWindow *window);
-    /// Whether the content pans by itself.
-    bool isPannable;
 };
 
 /// All pages, in the order in which they are listed.
@@ -31,7 +29,9 @@ QGraphicsWidget *makeListPage();
 QGraphicsWidget *makeEndlessListPage();
 QGraphicsWidget *makeLayoutsPage();
 QGraphicsWidget *makeIconsPage();
-QGraphicsWidget *makePickersPage();
+QGraphicsWidget *makeDatePage();
+QGraphicsWidget *makeTimePage();
+QGraphicsWidget *makeChoicesPage();
 QGraphicsWidget *makeDialogsPage();
 
 void openDialog(MWindow *window);
@@ -40,6 +40,5 @@ void openLongQuestion(MWindow *window);
 void openSheet(MWindow *window);
 void openBanner(MWindow *window);
 void openUndoBanner(MWindow *window);
-void openObjectMenu(MWindow *window);
 
 #endif

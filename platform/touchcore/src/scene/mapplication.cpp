@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The daskel authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
+#include "accessibility/accessiblefactory.h"
 #include "windowlist.h"
 
 #include <touchcore/mapplication.h>
@@ -25,7 +26,10 @@ QList<MWindow *> &windowList()
     return windows;
 }
 
-MApplication::MApplication(int &argc, char **argv) : QApplication(withScreenPixels(argc), argv) { }
+MApplication::MApplication(int &argc, char **argv) : QApplication(withScreenPixels(argc), argv)
+{
+    installAccessibility();
+}
 
 MApplication::~MApplication() = default;
 
