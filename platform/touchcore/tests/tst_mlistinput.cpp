@@ -50,6 +50,7 @@ private Q_SLOTS:
     void tapSelects();
     void onlySelectableRowsAreSelected();
     void tapMayTakeTheListAway();
+    void touchOnAMovingListIsNoTap();
     void longPressGoesToTheRow();
 
     void keysMoveTheCurrentRow_data();
@@ -205,6 +206,19 @@ void TestMListInput::tapMayTakeTheListAway()
     m_screen->tap(QPointF(100, 130));
     m_screen->model.removeRow(0);
     QVERIFY(clicked().isEmpty());
+}
+
+void TestMListInput::touchOnAMovingListIsNoTap()
+{
+    const ItemCreator *items = showItems();
+    m_screen->flick(m_screen->physics(), QPointF(100, 400), QPointF(0, -120), 5);
+    m_screen->physics()->advance(0.05);
+    m_screen->tap(QPointF(100, 300));
+    QVERIFY(clicked().isEmpty());
+    QVERIFY(items->clicked.isEmpty());
+    m_screen->tap(QPointF(100, 300));
+    QCOMPARE(clicked().size(), 1);
+    QCOMPARE(items->clicked.size(), 1);
 }
 
 void TestMListInput::longPressGoesToTheRow()

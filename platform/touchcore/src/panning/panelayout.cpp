@@ -19,7 +19,6 @@ void PaneLayout::setWidget(QGraphicsWidget *widget)
     m_widget = widget;
     if (widget)
         addChildLayoutItem(widget);
-    invalidate();
 }
 
 QGraphicsLayoutItem *PaneLayout::itemAt(int index) const
