@@ -144,6 +144,9 @@ void TestNotices::onlyWhatWasLoadedIsTakenIn_data()
     QTest::newRow("a journal") << journals << add(journal("x", at(2020, 1, 1)))
                                << QStringList{"note", "x"};
     QTest::newRow("an open to-do") << todos << add(todo("x")) << QStringList{"todo", "x"};
+    const auto done = todo("x");
+    done->setCompleted(at(2026, 3, 9));
+    QTest::newRow("a to-do that is done already") << todos << add(done) << QStringList{"todo"};
     QTest::newRow("a to-do completed") << todos << Step([](OpenStorage &s) {
         s.incidence("todo").staticCast<KCalCore::Todo>()->setCompleted(true);
     }) << QStringList{"todo"};
