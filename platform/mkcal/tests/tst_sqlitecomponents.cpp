@@ -292,6 +292,7 @@ void TestSqliteComponents::purgesByTimeAndNotebook()
     const QString other = "other";
     for (const char *uid : {"a", "b", "c"})
         QVERIFY(m_writer->insert(*eventOf(uid), *uid == 'c' ? other : notebook, 1));
+    QVERIFY(!m_writer->insert(*eventOf("a"), notebook, 2)); // one of them lives
     QVERIFY(m_writer->retire(find("a"), false, 2, 1000));
     QVERIFY(m_writer->retire(find("b"), true, 2, 2000));
     QVERIFY(m_writer->retireNotebook(other, 2, 1000));
