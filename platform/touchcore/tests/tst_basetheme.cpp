@@ -124,6 +124,8 @@ private Q_SLOTS:
     void rulesFit();
     void targetsAreLargeEnough_data();
     void targetsAreLargeEnough();
+    void textStandsOutFromItsFrame_data();
+    void textStandsOutFromItsFrame();
     void textIsReadable_data();
     void textIsReadable();
     void iconsKeepToTheGrid_data();
@@ -136,6 +138,9 @@ void TestBaseTheme::initTestCase()
 {
     QCOMPARE(MTheme::instance()->warnings(), QStringList());
     QCOMPARE(Rules().warnings(), QStringList());
+    QFile file(QStringLiteral(LIBRARY_THEME));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QVERIFY(MTheme::instance()->load(file.readAll(), file.fileName()));
 }
 
 void TestBaseTheme::hasContrast_data()
@@ -240,12 +245,6 @@ void TestBaseTheme::targetsAreLargeEnough()
 {
     QFETCH(const QMetaObject *, widget);
     QFETCH(QString, styleName);
-    static const bool isLoaded = [] {
-        QFile file(QStringLiteral(LIBRARY_THEME));
-        return file.open(QIODevice::ReadOnly)
-            && MTheme::instance()->load(file.readAll(), file.fileName());
-    }();
-    QVERIFY(isLoaded);
     const bool isButton = widget == &MButton::staticMetaObject;
     const auto make = [isButton]() -> MStyle * {
         return isButton ? new MButtonStyle : new MWidgetStyle;
@@ -263,6 +262,52 @@ void TestBaseTheme::targetsAreLargeEnough()
         }
     }
     MTheme::instance()->setOrientation(M::Portrait);
+}
+
+void TestBaseTheme::textStandsOutFromItsFrame_data()
+{
+    QTest::addColumn<M::ColorScheme>("scheme");
+    QTest::addColumn<const QMetaObject *>("widget");
+    QTest::addColumn<QString>("styleName");
+    const Rules theme;
+    QStringList styles = theme.rules().styles.keys();
+    styles.removeAll(QStringLiteral("CommonGroupHeaderWhite")); // its frame is its panel's
+    for (const M::ColorScheme scheme : {M::LightScheme, M::DarkScheme}) {
+        for (const QString &name : qAsConst(styles)) {
+            const QMetaObject *widget = name.endsWith(QLatin1String("Button"))
+                ? &MButton::staticMetaObject
+                : &MLabel::staticMetaObject;
+            if (theme.rules().styles.value(name).first().block.contains(QLatin1String("color")))
+                QTest::addRow("%s, %s", qPrintable(name),
+                              scheme == M::DarkScheme ? "dark" : "light")
+                    << scheme << widget << name;
+        }
+    }
+}
+
+void TestBaseTheme::textStandsOutFromItsFrame()
+{
+    QFETCH(M::ColorScheme, scheme);
+    QFETCH(const QMetaObject *, widget);
+    QFETCH(QString, styleName);
+    MTheme *theme = MTheme::instance();
+    theme->setColorScheme(scheme);
+    const bool isButton = widget == &MButton::staticMetaObject;
+    const auto make = [isButton]() -> MStyle * {
+        return isButton ? static_cast<MStyle *>(new MButtonStyle) : new MLabelStyle;
+    };
+    const QMetaObject *styleClass =
+        isButton ? &MButtonStyle::staticMetaObject : &MLabelStyle::staticMetaObject;
+    for (const QByteArray &mode : {QByteArray(), QByteArray("pressed"), QByteArray("checked")}) {
+        const auto style = theme->style(make, styleClass, widget, styleName, mode);
+        const auto color = style->property("color").value<QColor>();
+        const auto frame = style->property("backgroundColor").value<QColor>();
+        const qreal ratio = frame.isValid()
+            ? contrast(color, frame)
+            : qMin(contrast(color, theme->color(QStringLiteral("background"))),
+                   contrast(color, theme->color(QStringLiteral("surface"))));
+        QVERIFY2(ratio >= 4.5, qPrintable(QStringLiteral("%1: %2").arg(mode.data()).arg(ratio)));
+    }
 }
 
 void TestBaseTheme::textIsReadable_data()
