@@ -283,12 +283,16 @@ void TestMBanner::waitingBannersMayGo()
     SceneTest window;
     MBanner *undo = makeBanner("Event deleted", "Undo");
     MBanner *withdrawn = makeBanner("Saved");
+    QPointer<MBanner> done(makeBanner("Saved"));
     MBanner *deleted = makeBanner("Saved");
     MBanner *last = makeBanner("Synchronised");
     undo->appear(&window);
     for (MBanner *banner : {withdrawn, deleted, last})
         banner->appear(&window);
+    done->appear(&window, MSceneWindow::DestroyWhenDone);
     withdrawn->disappear();
+    done->disappear();
+    QTRY_VERIFY(!done);
     delete deleted;
     delete undo;
     QCOMPARE(window.sceneManager()->sceneWindows(), QList<MSceneWindow *>{last});

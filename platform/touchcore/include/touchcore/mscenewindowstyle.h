@@ -40,6 +40,8 @@ class MPageHeaderStyle : public MWidgetStyle
 class MDialogStyle : public MSceneWindowStyle
 {
     Q_OBJECT
+    /// From the contents to the buttons.
+    M_STYLE_ATTRIBUTE(int, buttonDistance, setButtonDistance, 24)
 
 public:
     MDialogStyle() { setMaximumWidth(400); }

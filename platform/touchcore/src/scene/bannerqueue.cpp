@@ -28,9 +28,14 @@ bool BannerQueue::admit(MSceneWindow *banner, MSceneWindow **replaced)
     return true;
 }
 
+bool BannerQueue::withdraw(const MSceneWindow *banner)
+{
+    return m_waiting.removeAll(const_cast<MSceneWindow *>(banner)) > 0;
+}
+
 MSceneWindow *BannerQueue::leave(const MSceneWindow *banner)
 {
-    m_waiting.removeAll(const_cast<MSceneWindow *>(banner));
+    withdraw(banner);
     if (m_shown.data() != banner)
         return nullptr;
     m_shown.clear();

@@ -19,7 +19,9 @@ public:
     /// Whether \a banner may appear now; otherwise it waits for its turn. The one that has to go is
     /// put into \a replaced.
     bool admit(MSceneWindow *banner, MSceneWindow **replaced);
-    /// \a banner is gone, or need not come any more. Answers the one that comes next, or null.
+    /// \a banner, if it waits, need not come any more. Answers whether it waited.
+    bool withdraw(const MSceneWindow *banner);
+    /// \a banner is gone. Answers the one that comes next, or null.
     MSceneWindow *leave(const MSceneWindow *banner);
 
 private:

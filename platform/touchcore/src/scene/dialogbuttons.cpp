@@ -4,9 +4,18 @@
 #include "dialogbuttons.h"
 
 #include <touchcore/mbutton.h>
+#include <touchcore/mtheme.h>
 
 #include <QEvent>
 #include <QStyle>
+
+namespace
+{
+int spacing()
+{
+    return MTheme::instance()->measure(QStringLiteral("itemSpacing"));
+}
+} // namespace
 
 DialogButtons::DialogButtons(QGraphicsItem *parent) : QGraphicsWidget(parent)
 {
@@ -35,9 +44,9 @@ void DialogButtons::add(MButton *button)
     arrange();
 }
 
-void DialogButtons::setSpacing(qreal spacing)
+void DialogButtons::setTopMargin(qreal margin)
 {
-    m_spacing = spacing;
+    m_topMargin = qMax(0.0, margin);
     updateGeometry();
     arrange();
 }
@@ -49,7 +58,7 @@ QSizeF DialogButtons::sizeHint(Qt::SizeHint which, const QSizeF &constraint) con
     const QSizeF largest = largestButton();
     const bool isRow = constraint.width() < 0 || constraint.width() >= rowWidth();
     const int rows = isRow ? 1 : m_buttons.size();
-    const qreal height = rows * largest.height() + (rows - 1) * m_spacing;
+    const qreal height = m_topMargin + rows * largest.height() + (rows - 1) * spacing();
     switch (which) {
     case Qt::MinimumSize:
         return {0, height};
@@ -81,10 +90,10 @@ void DialogButtons::arrange()
         return;
     const bool isRow = size().width() >= rowWidth();
     const qreal height = largestButton().height();
-    const qreal width = isRow ? (size().width() - (count - 1) * m_spacing) / count : size().width();
+    const qreal width = isRow ? (size().width() - (count - 1) * spacing()) / count : size().width();
     for (int i = 0; i < count; ++i) {
-        const QRectF place(isRow ? i * (width + m_spacing) : 0,
-                           isRow ? 0 : i * (height + m_spacing), width, height);
+        const QRectF place(isRow ? i * (width + spacing()) : 0,
+                           m_topMargin + (isRow ? 0 : i * (height + spacing())), width, height);
         m_buttons.at(i)->setGeometry(
             QStyle::visualRect(layoutDirection(), rect().toRect(), place.toRect()));
     }
@@ -100,5 +109,5 @@ QSizeF DialogButtons::largestButton() const
 
 qreal DialogButtons::rowWidth() const
 {
-    return m_buttons.size() * largestButton().width() + (m_buttons.size() - 1) * m_spacing;
+    return m_buttons.size() * largestButton().width() + (m_buttons.size() - 1) * spacing();
 }

@@ -20,7 +20,8 @@ public:
 
     void add(MButton *button);
     QList<MButton *> buttons() const { return m_buttons; }
-    void setSpacing(qreal spacing);
+    /// Room above the buttons, in pixels.
+    void setTopMargin(qreal margin);
 
 protected:
     QSizeF sizeHint(Qt::SizeHint which, const QSizeF &constraint) const override;
@@ -33,7 +34,7 @@ private:
     qreal rowWidth() const;
 
     QList<MButton *> m_buttons;
-    qreal m_spacing = 8;
+    qreal m_topMargin = 0;
 };
 
 #endif

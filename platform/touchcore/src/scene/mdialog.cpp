@@ -188,6 +188,7 @@ void MDialog::pressedOutside()
 void MDialog::applyStyle()
 {
     d->column->setSpacing(style()->spacing());
+    d->buttons->setTopMargin(style()->buttonDistance() - style()->spacing());
     MSceneWindow::applyStyle();
 }
 

@@ -18,6 +18,8 @@
 #include <QKeyEvent>
 #include <QPointer>
 
+#include <algorithm>
+
 class MObjectMenuPrivate
 {
 public:
@@ -36,6 +38,7 @@ public:
     QGraphicsWidget *pane = nullptr;
     QGraphicsLinearLayout *column = nullptr;
     QList<MListItem *> rows;
+    QList<MImageWidget *> icons;
     /// In the coordinates of the window's contents.
     QPointF finger;
 };
@@ -54,12 +57,15 @@ void MObjectMenuPrivate::addRow(QAction *action)
     auto *label = new MLabel(row);
     label->setStyleName(QStringLiteral("ObjectMenuText"));
     auto *line = new QGraphicsLinearLayout(Qt::Horizontal, row);
+    line->setContentsMargins(0, 0, 0, 0);
+    line->setSpacing(q->style()->spacing());
     line->addItem(icon);
     line->addItem(label);
     line->setStretchFactor(label, 1);
     line->setAlignment(icon, Qt::AlignVCenter);
     column->addItem(row);
     rows.append(row);
+    icons.append(icon);
     showAction(row, icon, label, action);
     QObject::connect(action, &QAction::changed, row,
                      [this, row, icon, label, action] { showAction(row, icon, label, action); });
@@ -77,7 +83,12 @@ void MObjectMenuPrivate::showAction(MListItem *row, MImageWidget *icon, MLabel *
         ? q->style()->checkedImage()
         : actionIcon(action);
     icon->setImage(picture);
-    icon->setVisible(!picture.isEmpty());
+    // One picture moves the texts of all rows, so that they stay in line.
+    const bool hasPictures = std::any_of(icons.begin(), icons.end(), [](const MImageWidget *other) {
+        return !other->image().isEmpty();
+    });
+    for (MImageWidget *other : qAsConst(icons))
+        other->setVisible(hasPictures);
     label->setText(action->iconText());
     row->setEnabled(action->isEnabled());
     row->setVisible(action->isVisible());

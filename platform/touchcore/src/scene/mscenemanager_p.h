@@ -55,11 +55,14 @@ public:
 
 private:
     void enter(MSceneWindow *window, bool isAnimated);
+    /// From now on the window of this manager owns the scene window.
+    void adopt(MSceneWindow *window);
     void insert(MSceneWindow *window);
     void restack();
     void run(MSceneWindow *window, bool isEntering, bool isAnimated);
     void finishAppearing(MSceneWindow *window);
     void finishDisappearing(MSceneWindow *window);
+    static void deleteIfDone(MSceneWindow *window);
     static void removeDim(MSceneWindow *window);
 
     bool isCovered(const MSceneWindow *window) const;

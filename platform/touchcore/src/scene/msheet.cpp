@@ -4,6 +4,7 @@
 #include "pageheader.h"
 
 #include <touchcore/mbutton.h>
+#include <touchcore/mscenemanager.h>
 #include <touchcore/msheet.h>
 
 #include <QAction>
@@ -149,5 +150,8 @@ bool MSheet::isModal() const
 void MSheet::resizeEvent(QGraphicsSceneResizeEvent *event)
 {
     MSceneWindow::resizeEvent(event);
+    // Only a sheet that stands free has corners to be rounded.
+    const bool isFree = sceneManager() && size() != sceneManager()->visibleSize();
+    setStyleMode(isFree ? QByteArrayLiteral("floating") : QByteArray());
     d->arrange();
 }

@@ -135,6 +135,8 @@ void MPageHeader::updateTitleMargin()
 MButton *MPageHeader::makeButton(QAction *action)
 {
     auto *button = new MButton(this);
+    // A long title gives way, not the buttons.
+    button->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
     tieButton(button, action);
     return button;
 }

@@ -3,6 +3,7 @@
 
 #include "mscenemanager_p.h"
 #include "mscenewindow_p.h"
+#include "scenedim.h"
 
 #include <touchcore/mwindow.h>
 
@@ -80,6 +81,8 @@ void MSceneManagerPrivate::updateVisibility()
     for (auto it = windows.crbegin(); it != windows.crend(); ++it) {
         MSceneWindow *candidate = *it;
         candidate->setVisible(!isHidden);
+        if (candidate->d->dim)
+            candidate->d->dim->setVisible(!isHidden && !fillsWindow(candidate));
         const bool isOnDisplay = !isHidden && window->isOnDisplay();
         if (candidate->isOnDisplay() != isOnDisplay)
             MWidget::updateDisplayState(candidate, isOnDisplay);

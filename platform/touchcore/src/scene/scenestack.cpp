@@ -117,8 +117,11 @@ void MSceneManagerPrivate::appear(MSceneWindow *appearing, MSceneWindow::Deletio
     d->isDismissed = false;
     if (d->layer == MSceneWindow::BannerLayer) {
         MSceneWindow *replaced = nullptr;
-        if (!banners.admit(appearing, &replaced))
+        if (!banners.admit(appearing, &replaced)) {
+            appearing->hide();
+            adopt(appearing);
             return;
+        }
         if (replaced)
             disappear(replaced, isAnimated);
     }
@@ -142,13 +145,7 @@ void MSceneManagerPrivate::appear(MSceneWindow *appearing, MSceneWindow::Deletio
 void MSceneManagerPrivate::enter(MSceneWindow *entering, bool isAnimated)
 {
     const QPointer<MSceneWindow> guard(entering);
-    // Qt crashes on an item that is given a parent in another scene.
-    if (entering->scene() && entering->scene() != root->scene())
-        entering->scene()->removeItem(entering);
-    entering->setParentItem(root);
-    // An item that gets a parent keeps the direction that it was made with.
-    if (!entering->testAttribute(Qt::WA_SetLayoutDirection))
-        entering->unsetLayoutDirection();
+    adopt(entering);
     insert(entering);
     if (entering->isModal()) {
         entering->setFlag(QGraphicsItem::ItemIsPanel);
@@ -166,6 +163,17 @@ void MSceneManagerPrivate::enter(MSceneWindow *entering, bool isAnimated)
     Q_EMIT entering->appearing();
     if (guard && entering->d->state == MSceneWindow::Appearing)
         run(entering, true, isAnimated);
+}
+
+void MSceneManagerPrivate::adopt(MSceneWindow *newcomer)
+{
+    // Qt crashes on an item that is given a parent in another scene.
+    if (newcomer->scene() && newcomer->scene() != root->scene())
+        newcomer->scene()->removeItem(newcomer);
+    newcomer->setParentItem(root);
+    // An item that gets a parent keeps the direction that it was made with.
+    if (!newcomer->testAttribute(Qt::WA_SetLayoutDirection))
+        newcomer->unsetLayoutDirection();
 }
 
 void MSceneManagerPrivate::insert(MSceneWindow *entering)
@@ -222,8 +230,8 @@ void MSceneManagerPrivate::disappear(MSceneWindow *leaving, bool isAnimated)
     if (d->manager != q)
         return;
     if (d->state == MSceneWindow::Disappeared) {
-        // A banner that still waits for its turn need not come any more.
-        banners.leave(leaving);
+        if (banners.withdraw(leaving))
+            deleteIfDone(leaving);
         return;
     }
     if (d->state == MSceneWindow::Disappearing) {
@@ -256,9 +264,8 @@ void MSceneManagerPrivate::dismiss(MSceneWindow *leaving, bool isAnimated)
             disappear(leaving, isAnimated);
         return;
     }
-    banners.leave(leaving);
-    if (leaving->d->deletionPolicy == MSceneWindow::DestroyWhenDismissed)
-        leaving->deleteLater();
+    banners.withdraw(leaving);
+    deleteIfDone(leaving);
 }
 
 void MSceneManagerPrivate::finishDisappearing(MSceneWindow *left)
@@ -277,10 +284,15 @@ void MSceneManagerPrivate::finishDisappearing(MSceneWindow *left)
             appear(next, next->d->deletionPolicy, MSceneManager::areAnimationsEnabled());
     }
     Q_EMIT left->disappeared();
-    if (!guard || left->d->state != MSceneWindow::Disappeared)
-        return;
-    if (left->d->deletionPolicy == MSceneWindow::DestroyWhenDone
-        || (left->d->deletionPolicy == MSceneWindow::DestroyWhenDismissed && left->d->isDismissed))
+    if (guard && left->d->state == MSceneWindow::Disappeared)
+        deleteIfDone(left);
+}
+
+void MSceneManagerPrivate::deleteIfDone(MSceneWindow *left)
+{
+    const MSceneWindow::DeletionPolicy policy = left->d->deletionPolicy;
+    if (policy == MSceneWindow::DestroyWhenDone
+        || (policy == MSceneWindow::DestroyWhenDismissed && left->d->isDismissed))
         left->deleteLater();
 }
 

@@ -17,6 +17,7 @@ const QStringList &modes()
     static const QStringList names{
         QStringLiteral("pressed"),  QStringLiteral("selected"), QStringLiteral("checked"),
         QStringLiteral("disabled"), QStringLiteral("error"),    QStringLiteral("current"),
+        QStringLiteral("floating"),
     };
     return names;
 }
