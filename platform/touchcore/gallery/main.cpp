@@ -4,6 +4,7 @@
 #include "gallerypages.h"
 #include "gallerywindow.h"
 #include "pictures.h"
+#include "teller.h"
 
 #include <touchcore/mapplication.h>
 #include <touchcore/mtheme.h>
@@ -44,7 +45,9 @@ int main(int argc, char **argv)
                                       QStringLiteral("Write a picture of each page into DIR."),
                                       QStringLiteral("DIR"));
     const QCommandLineOption dark(QStringLiteral("dark"), QStringLiteral("Show the dark palette."));
-    parser.addOptions({pictures, dark});
+    const QCommandLineOption tell(QStringLiteral("tell"),
+                                  QStringLiteral("Write what is seen to standard output."));
+    parser.addOptions({pictures, dark, tell});
     parser.addPositionalArgument(QStringLiteral("page"), QStringLiteral("The page to open."),
                                  QStringLiteral("[page]"));
     parser.process(application);
@@ -60,6 +63,8 @@ int main(int argc, char **argv)
     MWindow window;
     window.resize(usualSize);
     window.show();
+    if (parser.isSet(tell))
+        new Teller(&window);
     showGalleryIndex(&window);
     const QString wanted = parser.positionalArguments().value(0);
     if (const GalleryPage *page = pageNamed(wanted))
