@@ -88,7 +88,8 @@ void TestMImageWidget::pointsTheOtherWayFromTheRight()
     QCOMPARE(left(), QColor(Qt::red));
     widget->setLayoutDirection(Qt::RightToLeft);
     QCOMPARE(left(), QColor(Qt::red));
-    widget->setMirrored(true);
+    const QString list = QStringLiteral("{\"mirrored\": [\"%1\"]}").arg(m_file);
+    QVERIFY(MTheme::instance()->load(list.toUtf8(), QStringLiteral("test")));
     QCOMPARE(left(), QColor(Qt::blue));
     widget->setLayoutDirection(Qt::LeftToRight);
     QCOMPARE(left(), QColor(Qt::red));

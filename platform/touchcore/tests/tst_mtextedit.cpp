@@ -5,6 +5,7 @@
 #include "picture.h"
 #include "touchscreen.h"
 
+#include <touchcore/mpannableviewport.h>
 #include <touchcore/mtextedit.h>
 #include <touchcore/mtheme.h>
 
@@ -282,6 +283,18 @@ void TestMTextEdit::leavesTheFocusWhenPanned()
     QVERIFY(grabber);
     grabber->ungrabMouse();
     m_screen->release({50, 20});
+    QVERIFY(!edit->hasFocus());
+    // What a viewport does when it takes a touch over.
+    MPannableViewport viewport;
+    m_screen->scene.addItem(&viewport);
+    viewport.resize(360, 600);
+    auto *page = new QGraphicsWidget;
+    edit->setParentItem(page);
+    page->setMinimumHeight(2000);
+    viewport.setWidget(page);
+    TouchScreen::layOut();
+    m_screen->drag(viewport.physics(), {50, 20}, {0, -100});
+    QVERIFY(viewport.position().y() > 50);
     QVERIFY(!edit->hasFocus());
 }
 

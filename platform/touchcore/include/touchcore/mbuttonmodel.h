@@ -13,9 +13,6 @@ class MButtonModel : public MWidgetModel
     M_MODEL_PROPERTY(QString, text, setText)
     /// The name of a picture of the theme.
     M_MODEL_PROPERTY(QString, iconID, setIconID)
-    /// Whether the picture points somewhere (an arrow) and so turns round in a right-to-left
-    /// layout.
-    M_MODEL_PROPERTY(bool, iconMirrored, setIconMirrored, false)
     M_MODEL_PROPERTY(bool, checkable, setCheckable, false)
     M_MODEL_PROPERTY(bool, checked, setChecked, false)
     /// Whether it is being pressed at this moment.

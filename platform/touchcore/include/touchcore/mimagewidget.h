@@ -6,8 +6,6 @@
 
 #include <touchcore/mstylablewidget.h>
 
-class MImageWidgetPrivate;
-
 /// How a picture is shown.
 class MImageWidgetStyle : public MWidgetStyle
 {
@@ -19,13 +17,13 @@ class MImageWidgetStyle : public MWidgetStyle
 };
 
 /// A picture of the theme in the middle of the widget. Where there is less room than it wants it is
-/// made smaller, with its proportions kept.
+/// made smaller, with its proportions kept. From right to left, those pictures turn round that the
+/// theme lists as mirrored.
 class MImageWidget : public MStylableWidget
 {
     Q_OBJECT
     M_STYLE(MImageWidgetStyle)
     Q_PROPERTY(QString image READ image WRITE setImage)
-    Q_PROPERTY(bool mirrored READ isMirrored WRITE setMirrored)
 
 public:
     explicit MImageWidget(QGraphicsItem *parent = nullptr);
@@ -33,13 +31,8 @@ public:
     ~MImageWidget() override;
 
     /// The name of the picture; empty shows nothing.
-    QString image() const;
+    QString image() const { return m_image.id(); }
     void setImage(const QString &id);
-
-    /// Whether the picture points somewhere (an arrow) and so turns round in a right-to-left
-    /// layout. Off by default: pictures of things do not.
-    bool isMirrored() const;
-    void setMirrored(bool isMirrored);
 
     void paint(QPainter *painter, const QStyleOptionGraphicsItem *option,
                QWidget *widget = nullptr) override;
@@ -50,7 +43,7 @@ protected:
 private:
     QSizeF shownSize() const;
 
-    std::unique_ptr<MImageWidgetPrivate> d;
+    MScalableImage m_image;
 };
 
 #endif

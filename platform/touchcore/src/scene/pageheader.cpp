@@ -55,7 +55,6 @@ void MPageHeader::setLeadingButton(LeadingButton kind)
     m_leading->setVisible(kind != NoLeadingButton);
     m_leading->setText(kind == BackButton ? SceneTexts::back() : SceneTexts::close());
     m_leading->setIconID(kind == BackButton ? style()->backImage() : style()->closeImage());
-    m_leading->model()->setIconMirrored(kind == BackButton);
     updateTitleMargin();
 }
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The daskel authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-#include "iconpainter.h"
+#include "placing.h"
 #include "textblock.h"
 
 #include <touchcore/mbutton.h>
@@ -169,9 +169,7 @@ void MButtonView::drawLabel(QPainter *painter, const QRectF &rect) const
 void MButtonView::drawIcon(QPainter *painter, const QRectF &rect) const
 {
     const QColor tint = style()->iconColor().isValid() ? style()->iconColor() : style()->color();
-    ::drawIcon(painter, d->icon, rect, tint,
-               button()->model()->iconMirrored()
-                   && controller()->layoutDirection() == Qt::RightToLeft);
+    d->icon.draw(rect, painter, tint, controller()->layoutDirection());
 }
 
 void MButtonView::drawText(QPainter *painter, const QRectF &rect) const

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The daskel authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-#include "iconpainter.h"
+#include "placing.h"
 
 #include <touchcore/mbutton.h>
 #include <touchcore/mbuttonviews.h>

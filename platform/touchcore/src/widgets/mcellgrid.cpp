@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The daskel authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-#include "iconpainter.h"
+#include "placing.h"
 #include "press.h"
 
 #include <touchcore/mcellgrid.h>

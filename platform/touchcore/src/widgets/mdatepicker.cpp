@@ -61,10 +61,8 @@ MDatePickerPrivate::MDatePickerPrivate(MDatePicker *picker)
 {
     previous->setIconID(QStringLiteral("chevron-left"));
     next->setIconID(QStringLiteral("chevron-right"));
-    for (MButton *arrow : {previous, next}) {
+    for (MButton *arrow : {previous, next})
         arrow->setViewType(QStringLiteral("icon"));
-        arrow->model()->setIconMirrored(true);
-    }
     title->setStyleName(QStringLiteral("HeadingButton"));
     auto *heading = new QGraphicsLinearLayout(Qt::Horizontal);
     heading->setContentsMargins(0, 0, 0, 0);

@@ -10,6 +10,7 @@
 #include <QEvent>
 #include <QGraphicsProxyWidget>
 #include <QGraphicsSceneMouseEvent>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QtMath>
 
@@ -251,7 +252,9 @@ bool MTextEdit::eventFilter(QObject *watched, QEvent *event)
         update();
         break;
     case QEvent::MouseButtonRelease:
-        if (watched == d->field->touched())
+        // A touch that is taken over ends with a release far away.
+        if (watched == d->field->touched()
+            && d->field->touched()->rect().contains(static_cast<QMouseEvent *>(event)->pos()))
             d->takeFocus();
         break;
     default:

@@ -24,7 +24,7 @@ set(TOUCHCORE_WIDGETS_HEADERS
 set(TOUCHCORE_WIDGETS_SOURCES
     src/widgets/textblock.cpp
     src/widgets/richtext.cpp
-    src/widgets/iconpainter.cpp
+    src/widgets/placing.cpp
     src/widgets/press.cpp
     src/widgets/mlabel.cpp
     src/widgets/mimagewidget.cpp
