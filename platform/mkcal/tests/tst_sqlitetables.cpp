@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
 #include "sqlite/connection.h"
+#include "sqlite/metatable.h"
 #include "sqlite/notebooktable.h"
 #include "sqlite/remindertable.h"
 #include "sqlite/schema.h"
@@ -19,6 +20,7 @@ class TestSqliteTables : public QObject
 private Q_SLOTS:
     void init();
     void cleanup();
+    void countsChangesByWriter();
     void notebooksComeBackInOrder();
     void remindersAreNotRepeated();
     void remindersKeepTheirOccurrence_data();
@@ -44,6 +46,19 @@ void TestSqliteTables::cleanup()
 {
     QCOMPARE(m_connection.errorCodes(), QList<int>());
     m_connection.close();
+}
+
+void TestSqliteTables::countsChangesByWriter()
+{
+    MetaTable meta(m_connection);
+    ChangeMark mark;
+    qint64 counter = 0;
+    QVERIFY(meta.bump("me", &counter));
+    QCOMPARE(counter, 1);
+    QVERIFY(meta.bump("you", &counter));
+    QVERIFY(meta.readMark(&mark));
+    QCOMPARE(mark.counter, 2);
+    QCOMPARE(mark.writer, "you");
 }
 
 void TestSqliteTables::notebooksComeBackInOrder()
