@@ -20,6 +20,19 @@ if(DASKEL_PCH)
         <QHash>
         <QTimeZone>
         <QVector>)
+
+    # The toolkit and its tests know no calendar.
+    add_library(touchcore_pch OBJECT ${CMAKE_CURRENT_LIST_DIR}/precompiled.cpp)
+    target_link_libraries(touchcore_pch PRIVATE daskel_options Qt5::Widgets)
+    target_precompile_headers(touchcore_pch PRIVATE
+        <QApplication>
+        <QGraphicsLinearLayout>
+        <QGraphicsScene>
+        <QGraphicsSceneMouseEvent>
+        <QGraphicsView>
+        <QGraphicsWidget>
+        <QPainter>
+        <QTimer>)
 endif()
 
 # The compiler takes them only where the calendar's own options are in force.
@@ -31,6 +44,9 @@ function(daskel_use_precompiled_headers target)
             return()
         endif()
     endforeach()
+    if(DASKEL_PCH AND (target STREQUAL "tarvotouchcore" OR "tarvotouchcore" IN_LIST ARGN))
+        target_precompile_headers(${target} REUSE_FROM touchcore_pch)
+    endif()
 endfunction()
 
 # daskel_add_layer(<name> SHARED|OBJECT
