@@ -20,7 +20,7 @@ struct Aim {
     double value = 0;
 };
 
-/// Two medians, in microseconds.
+/// Two medians, in microseconds or the figure's unit.
 struct Times {
     double ours = 0;
     double floor = 0;
@@ -32,6 +32,7 @@ struct Figure {
     Times times;
     Aim aim;
     QJsonObject work; ///< what was done for it, such as statements and rows
+    QString unit = QStringLiteral("µs");
 };
 
 /// A sample calendar on disk, as a database and as an iCalendar file.
@@ -119,11 +120,16 @@ extern const QString sampleNotebook;
 /// Ends the program: a figure of something that failed would mean nothing.
 void require(bool condition, const QString &what);
 
+/// Does one thing that is measured in a process of its own and prints what it took; false when
+/// there is no such task.
+bool runTask(const QStringList &words);
+
 // The figures, by what they are of.
 void measureStorage(const Bench &bench);
 void measureImport(const Bench &bench);
 void measureCalendar(const Bench &bench);
 void measureCache(const Bench &bench);
 void measureLocale(const Bench &bench);
+void measureWidgets(const Bench &bench);
 
 #endif

@@ -28,6 +28,9 @@ int main(int argc, char *argv[])
     parser.addHelpOption();
     parser.addOption(
         {QStringLiteral("samples"), QStringLiteral("Only make the sample calendars.")});
+    parser.addOption({QStringLiteral("task"),
+                      QStringLiteral("Only do what is measured in a process of its own: "
+                                     "import FILE DATABASE, parse FILE.")});
     parser.addPositionalArgument(QStringLiteral("folder"),
                                  QStringLiteral("Where the sample calendars are kept."));
     parser.addPositionalArgument(QStringLiteral("filter"),
@@ -35,6 +38,9 @@ int main(int argc, char *argv[])
                                  QStringLiteral("[filter...]"));
     parser.process(application);
     const QStringList words = parser.positionalArguments();
+    if (parser.isSet(QStringLiteral("task"))) {
+        return runTask(words) ? 0 : 2;
+    }
     if (words.isEmpty()) {
         parser.showHelp(2);
     }
