@@ -4,9 +4,9 @@
 #ifndef DASKEL_DASKELLOCALE_H
 #define DASKEL_DASKELLOCALE_H
 
-#include <QObject>
-
 #include <touchcore/mlocale.h>
+
+#include <QObject>
 
 class MCalendar;
 class QDateTime;

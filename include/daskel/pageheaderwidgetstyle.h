@@ -4,11 +4,11 @@
 #ifndef DASKEL_PAGEHEADERWIDGETSTYLE_H
 #define DASKEL_PAGEHEADERWIDGETSTYLE_H
 
-#include <QColor>
-#include <QString>
-
 #include <touchcore/mscalableimage.h>
 #include <touchcore/mwidgetstyle.h>
+
+#include <QColor>
+#include <QString>
 
 /// How page headers look.
 class PageHeaderWidgetStyle : public MWidgetStyle

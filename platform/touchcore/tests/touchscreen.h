@@ -4,15 +4,15 @@
 #ifndef TOUCHCORE_TESTS_TOUCHSCREEN_H
 #define TOUCHCORE_TESTS_TOUCHSCREEN_H
 
+#include <touchcore/mphysics2dpanning.h>
+#include <touchcore/mwidget.h>
+
 #include <QApplication>
 #include <QGraphicsScene>
 #include <QGraphicsView>
 #include <QMouseEvent>
 #include <QTest>
 #include <QWheelEvent>
-
-#include <touchcore/mphysics2dpanning.h>
-#include <touchcore/mwidget.h>
 
 /// A window of 360 by 600 pixels with a scene in it, and a finger. Positions are those of the
 /// scene, which are also the window's.

@@ -3,9 +3,9 @@
 
 #include "localeenvironment.h"
 
-#include <QTest>
-
 #include <touchcore/mcalendar.h>
+
+#include <QTest>
 
 class TestMCalendar : public QObject
 {

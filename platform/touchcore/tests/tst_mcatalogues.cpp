@@ -3,13 +3,13 @@
 
 #include "localeenvironment.h"
 
+#include <touchcore/mlocale.h>
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
-
-#include <touchcore/mlocale.h>
 
 /// What qtTrId() says as the default locale changes. The catalogues "greeting" (English, German)
 /// and "override" (English) lie below share/ beside the program.

@@ -4,10 +4,10 @@
 #include "localeenvironment.h"
 #include "privatebus.h"
 
+#include <touchcore/mlocale.h>
+
 #include <QDBusVariant>
 #include <QSignalSpy>
-
-#include <touchcore/mlocale.h>
 
 namespace
 {

@@ -3,15 +3,15 @@
 
 #include "layout/layoutorientation.h"
 
-#include <QGraphicsLinearLayout>
-#include <QGraphicsScene>
-#include <QGraphicsWidget>
-#include <QtTest>
-
 #include <touchcore/mgridlayoutpolicy.h>
 #include <touchcore/mlayout.h>
 #include <touchcore/mlinearlayoutpolicy.h>
 #include <touchcore/mtheme.h>
+
+#include <QGraphicsLinearLayout>
+#include <QGraphicsScene>
+#include <QGraphicsWidget>
+#include <QtTest>
 
 namespace
 {

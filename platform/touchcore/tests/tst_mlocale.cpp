@@ -3,11 +3,11 @@
 
 #include "localeenvironment.h"
 
-#include <QSignalSpy>
-#include <QTest>
-
 #include <touchcore/mcalendar.h>
 #include <touchcore/mlocale.h>
+
+#include <QSignalSpy>
+#include <QTest>
 
 using Variables = QMap<QByteArray, QByteArray>;
 

@@ -3,11 +3,11 @@
 
 #include "localeenvironment.h"
 
-#include <QTest>
-#include <QTimeZone>
-
 #include <touchcore/mcalendar.h>
 #include <touchcore/mlocale.h>
+
+#include <QTest>
+#include <QTimeZone>
 
 /// The texts of each locale are those of CLDR 42: its patterns and names, put together by hand.
 class TestMLocaleFormats : public QObject

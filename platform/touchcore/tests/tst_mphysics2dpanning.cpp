@@ -1,12 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The daskel authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
+#include <touchcore/mphysics2dpanning.h>
+
 #include <QAbstractEventDispatcher>
 #include <QSignalSpy>
 #include <QTest>
 
 #include <cmath>
-#include <touchcore/mphysics2dpanning.h>
 
 class TestMPhysics2DPanning : public QObject
 {

@@ -3,10 +3,10 @@
 
 #include "localeenvironment.h"
 
-#include <QTest>
-
 #include <touchcore/mcalendar.h>
 #include <touchcore/mlocale.h>
+
+#include <QTest>
 
 /// The texts of each locale are those of CLDR 42: its patterns and names, put together by hand.
 class TestMPosixPattern : public QObject

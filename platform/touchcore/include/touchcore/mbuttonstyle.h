@@ -4,9 +4,9 @@
 #ifndef TOUCHCORE_MBUTTONSTYLE_H
 #define TOUCHCORE_MBUTTONSTYLE_H
 
-#include <QFont>
-
 #include <touchcore/mwidgetstyle.h>
+
+#include <QFont>
 
 /// How a button looks, in all of its views. Lengths are pixels at scale 1.
 class MButtonStyle : public MWidgetStyle

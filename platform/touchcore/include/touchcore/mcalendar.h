@@ -4,10 +4,10 @@
 #ifndef TOUCHCORE_MCALENDAR_H
 #define TOUCHCORE_MCALENDAR_H
 
+#include <touchcore/mlocale.h>
+
 #include <QDateTime>
 #include <QTimeZone>
-
-#include <touchcore/mlocale.h>
 
 /// A moment on the calendar that it is to be shown in, for MLocale::formatDateTime(), and how weeks
 /// go where the person lives. A value; on the UI thread, as MLocale.

@@ -4,10 +4,10 @@
 #ifndef TOUCHCORE_MCELLGRID_H
 #define TOUCHCORE_MCELLGRID_H
 
+#include <touchcore/mstylablewidget.h>
+
 #include <QFont>
 #include <QVector>
-
-#include <touchcore/mstylablewidget.h>
 
 class MCellGridPrivate;
 

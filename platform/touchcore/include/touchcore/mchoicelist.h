@@ -4,9 +4,9 @@
 #ifndef TOUCHCORE_MCHOICELIST_H
 #define TOUCHCORE_MCHOICELIST_H
 
-#include <QStringList>
-
 #include <touchcore/mstylablewidget.h>
+
+#include <QStringList>
 
 class MChoiceListPrivate;
 

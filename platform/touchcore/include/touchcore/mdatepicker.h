@@ -4,9 +4,9 @@
 #ifndef TOUCHCORE_MDATEPICKER_H
 #define TOUCHCORE_MDATEPICKER_H
 
-#include <QDate>
-
 #include <touchcore/mstylablewidget.h>
+
+#include <QDate>
 
 class MDatePickerPrivate;
 

@@ -4,9 +4,9 @@
 #ifndef TOUCHCORE_MGRIDLAYOUTPOLICY_H
 #define TOUCHCORE_MGRIDLAYOUTPOLICY_H
 
-#include <Qt>
-
 #include <touchcore/mabstractlayoutpolicy.h>
+
+#include <Qt>
 
 class QGraphicsGridLayout;
 

@@ -4,9 +4,9 @@
 #ifndef TOUCHCORE_MLABELSTYLE_H
 #define TOUCHCORE_MLABELSTYLE_H
 
-#include <QFont>
-
 #include <touchcore/mwidgetstyle.h>
+
+#include <QFont>
 
 /// How a label writes.
 class MLabelStyle : public MWidgetStyle

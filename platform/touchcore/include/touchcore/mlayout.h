@@ -4,10 +4,11 @@
 #ifndef TOUCHCORE_MLAYOUT_H
 #define TOUCHCORE_MLAYOUT_H
 
+#include <touchcore/mnamespace.h>
+
 #include <QGraphicsLayout>
 
 #include <memory>
-#include <touchcore/mnamespace.h>
 
 class MAbstractLayoutPolicy;
 class MLayoutPrivate;

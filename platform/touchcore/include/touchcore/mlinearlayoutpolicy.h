@@ -4,9 +4,9 @@
 #ifndef TOUCHCORE_MLINEARLAYOUTPOLICY_H
 #define TOUCHCORE_MLINEARLAYOUTPOLICY_H
 
-#include <Qt>
-
 #include <touchcore/mabstractlayoutpolicy.h>
+
+#include <Qt>
 
 class QGraphicsLinearLayout;
 

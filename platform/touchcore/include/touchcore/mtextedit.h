@@ -4,10 +4,10 @@
 #ifndef TOUCHCORE_MTEXTEDIT_H
 #define TOUCHCORE_MTEXTEDIT_H
 
+#include <touchcore/mstylablewidget.h>
+
 #include <QFont>
 #include <QLineEdit>
-
-#include <touchcore/mstylablewidget.h>
 
 class MTextEditPrivate;
 

@@ -4,6 +4,8 @@
 #ifndef TOUCHCORE_MTHEME_H
 #define TOUCHCORE_MTHEME_H
 
+#include <touchcore/mnamespace.h>
+
 #include <QColor>
 #include <QFont>
 #include <QObject>
@@ -12,7 +14,6 @@
 
 #include <functional>
 #include <memory>
-#include <touchcore/mnamespace.h>
 
 class MStyle;
 class MThemePrivate;

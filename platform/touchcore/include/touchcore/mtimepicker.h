@@ -4,9 +4,9 @@
 #ifndef TOUCHCORE_MTIMEPICKER_H
 #define TOUCHCORE_MTIMEPICKER_H
 
-#include <QTime>
-
 #include <touchcore/mstylablewidget.h>
+
+#include <QTime>
 
 class MTimePickerPrivate;
 

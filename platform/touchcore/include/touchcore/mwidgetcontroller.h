@@ -4,9 +4,9 @@
 #ifndef TOUCHCORE_MWIDGETCONTROLLER_H
 #define TOUCHCORE_MWIDGETCONTROLLER_H
 
-#include <QList>
-
 #include <touchcore/mwidget.h>
+
+#include <QList>
 
 class MWidgetControllerPrivate;
 class MWidgetModel;

@@ -4,11 +4,11 @@
 #ifndef TOUCHCORE_MWIDGETSTYLE_H
 #define TOUCHCORE_MWIDGETSTYLE_H
 
-#include <QColor>
-#include <QSizeF>
-
 #include <touchcore/mscalableimage.h>
 #include <touchcore/mstyle.h>
+
+#include <QColor>
+#include <QSizeF>
 
 class QPainter;
 class QRectF;

@@ -4,11 +4,12 @@
 #ifndef TOUCHCORE_MWIDGETVIEW_H
 #define TOUCHCORE_MWIDGETVIEW_H
 
+#include <touchcore/mstylecontainer.h>
+#include <touchcore/mwidgetstyle.h>
+
 #include <QObject>
 
 #include <memory>
-#include <touchcore/mstylecontainer.h>
-#include <touchcore/mwidgetstyle.h>
 
 class MWidgetController;
 class MWidgetViewPrivate;

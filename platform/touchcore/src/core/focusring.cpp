@@ -3,11 +3,12 @@
 
 #include "focusring.h"
 
+#include <touchcore/mtheme.h>
+
 #include <QGraphicsWidget>
 #include <QPainter>
 
 #include <limits>
-#include <touchcore/mtheme.h>
 
 namespace
 {

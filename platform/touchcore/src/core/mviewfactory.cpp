@@ -1,13 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The daskel authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-#include <QHash>
-#include <QSet>
-
 #include <touchcore/mtheme.h>
 #include <touchcore/mviewfactory.h>
 #include <touchcore/mwidgetcontroller.h>
 #include <touchcore/mwidgetview.h>
+
+#include <QHash>
+#include <QSet>
 
 namespace
 {

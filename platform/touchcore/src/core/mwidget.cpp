@@ -3,6 +3,8 @@
 
 #include "objectmenuhook.h"
 
+#include <touchcore/mwidget.h>
+
 #include <QAction>
 #include <QGraphicsScene>
 #include <QGraphicsSceneContextMenuEvent>
@@ -11,7 +13,6 @@
 #include <QVector>
 
 #include <algorithm>
-#include <touchcore/mwidget.h>
 
 namespace
 {
@@ -81,8 +82,8 @@ MWidget::MWidget(QGraphicsItem *parent)
     d->isBranchShown = isShownBelow(parent);
 }
 
-/// While a QGraphicsWidget goes, it tells what it thinks is its parent that its size changed: a parent
-/// that laid it out by hand, without a layout, is no longer there then.
+/// While a QGraphicsWidget goes, it tells what it thinks is its parent that its size changed: a
+/// parent that laid it out by hand, without a layout, is no longer there then.
 MWidget::~MWidget()
 {
     if (parentLayoutItem() && !parentLayoutItem()->isLayout())

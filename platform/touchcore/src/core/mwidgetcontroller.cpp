@@ -3,16 +3,16 @@
 
 #include "focusring.h"
 
-#include <QEvent>
-#include <QFocusEvent>
-#include <QPainterPath>
-#include <QPointer>
-
 #include <touchcore/mtheme.h>
 #include <touchcore/mviewfactory.h>
 #include <touchcore/mwidgetcontroller.h>
 #include <touchcore/mwidgetmodel.h>
 #include <touchcore/mwidgetview.h>
+
+#include <QEvent>
+#include <QFocusEvent>
+#include <QPainterPath>
+#include <QPointer>
 
 namespace
 {

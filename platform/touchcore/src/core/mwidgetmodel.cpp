@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The daskel authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-#include <QMetaProperty>
-
 #include <touchcore/mwidgetmodel.h>
+
+#include <QMetaProperty>
 
 class MWidgetModelPrivate
 {

@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The daskel authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-#include <QPainter>
-
 #include <touchcore/mwidgetcontroller.h>
 #include <touchcore/mwidgetview.h>
+
+#include <QPainter>
 
 class MWidgetViewPrivate
 {

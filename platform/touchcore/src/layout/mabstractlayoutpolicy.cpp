@@ -4,9 +4,9 @@
 #include "layoutstandin.h"
 #include "mlayout_p.h"
 
-#include <QHash>
-
 #include <touchcore/mabstractlayoutpolicy.h>
+
+#include <QHash>
 
 class MAbstractLayoutPolicyPrivate
 {

@@ -4,11 +4,11 @@
 #include "layoutorientation.h"
 #include "mlayout_p.h"
 
-#include <QGraphicsItem>
-#include <QWidget>
-
 #include <touchcore/mabstractlayoutpolicy.h>
 #include <touchcore/mtheme.h>
+
+#include <QGraphicsItem>
+#include <QWidget>
 
 namespace
 {

@@ -4,10 +4,10 @@
 #ifndef TOUCHCORE_MLAYOUT_P_H
 #define TOUCHCORE_MLAYOUT_P_H
 
+#include <touchcore/mlayout.h>
+
 #include <QSet>
 #include <QVector>
-
-#include <touchcore/mlayout.h>
 
 class MLayoutPrivate
 {

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The daskel authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-#include <QGraphicsLinearLayout>
-
 #include <touchcore/mlinearlayoutpolicy.h>
+
+#include <QGraphicsLinearLayout>
 
 MLinearLayoutPolicy::MLinearLayoutPolicy(MLayout *layout, Qt::Orientation orientation)
     : MAbstractLayoutPolicy(layout, new QGraphicsLinearLayout(orientation)),

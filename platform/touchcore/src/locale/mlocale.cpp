@@ -7,11 +7,11 @@
 #include "mlocalename.h"
 #include "mposixpattern.h"
 
-#include <QCoreApplication>
-#include <QPointer>
-
 #include <touchcore/mcalendar.h>
 #include <touchcore/mlocale.h>
+
+#include <QCoreApplication>
+#include <QPointer>
 
 namespace
 {

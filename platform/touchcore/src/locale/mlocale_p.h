@@ -6,10 +6,11 @@
 
 #include "mlocaleformats.h"
 
+#include <touchcore/mlocale.h>
+
 #include <QStringList>
 
 #include <memory>
-#include <touchcore/mlocale.h>
 
 class MLocalePrivate
 {

@@ -4,11 +4,12 @@
 #ifndef MLOCALEFORMATS_H
 #define MLOCALEFORMATS_H
 
+#include <touchcore/mlocale.h>
+
 #include <QDateTime>
 
 #include <map>
 #include <memory>
-#include <touchcore/mlocale.h>
 #include <unicode/locid.h>
 #include <unicode/smpdtfmt.h>
 #include <utility>

@@ -4,11 +4,11 @@
 #include "ninepatch.h"
 #include "picture.h"
 
-#include <QPainter>
-#include <QtMath>
-
 #include <touchcore/mscalableimage.h>
 #include <touchcore/mtheme.h>
+
+#include <QPainter>
+#include <QtMath>
 
 namespace
 {

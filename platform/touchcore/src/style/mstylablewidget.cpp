@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The daskel authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
+#include <touchcore/mstylablewidget.h>
+
 #include <QEvent>
 #include <QGraphicsLayout>
-
-#include <touchcore/mstylablewidget.h>
 
 class MStylableWidgetPrivate
 {

@@ -1,10 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The daskel authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-#include <memory>
 #include <touchcore/mstyle.h>
 #include <touchcore/mstylecontainer.h>
 #include <touchcore/mtheme.h>
+
+#include <memory>
 
 void MStyleContainer::initialize(const Maker &maker, const QMetaObject *ownerClass,
                                  const QMetaObject *widgetClass)

@@ -5,13 +5,13 @@
 #include "picture.h"
 #include "stylefiller.h"
 
+#include <touchcore/mstyle.h>
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QStandardPaths>
-
-#include <touchcore/mstyle.h>
 
 namespace
 {

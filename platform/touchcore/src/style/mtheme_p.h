@@ -7,10 +7,11 @@
 #include "locale/mdesktopsetting.h"
 #include "themevalues.h"
 
+#include <touchcore/mtheme.h>
+
 #include <QSet>
 
 #include <memory>
-#include <touchcore/mtheme.h>
 
 class MStyle;
 

@@ -3,10 +3,10 @@
 
 #include "softshadow.h"
 
+#include <touchcore/mwidgetstyle.h>
+
 #include <QPainter>
 #include <QPainterPath>
-
-#include <touchcore/mwidgetstyle.h>
 
 namespace
 {

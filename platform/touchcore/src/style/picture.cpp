@@ -3,13 +3,13 @@
 
 #include "picture.h"
 
+#include <touchcore/mtheme.h>
+
 #include <QCache>
 #include <QHash>
 #include <QPainter>
 #include <QSet>
 #include <QSvgRenderer>
-
-#include <touchcore/mtheme.h>
 
 namespace
 {

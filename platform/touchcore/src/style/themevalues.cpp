@@ -3,10 +3,10 @@
 
 #include "themevalues.h"
 
+#include <touchcore/mscalableimage.h>
+
 #include <QJsonArray>
 #include <QSizeF>
-
-#include <touchcore/mscalableimage.h>
 
 namespace
 {
