@@ -68,9 +68,9 @@ bool Bench::wants(const QString &name) const
 void Bench::add(const Figure &figure) const
 {
     QJsonObject object{
-        {QStringLiteral("figure"), figure.name},        {QStringLiteral("n"), figure.count},
-        {QStringLiteral("unit"), QStringLiteral("µs")}, {QStringLiteral("ours"), figure.times.ours},
-        {QStringLiteral("floor"), figure.times.floor},  {QStringLiteral("work"), figure.work}};
+        {QStringLiteral("figure"), figure.name},       {QStringLiteral("n"), figure.count},
+        {QStringLiteral("unit"), figure.unit},         {QStringLiteral("ours"), figure.times.ours},
+        {QStringLiteral("floor"), figure.times.floor}, {QStringLiteral("work"), figure.work}};
     if (figure.aim.kind != Aim::None) {
         object.insert(figure.aim.kind == Aim::AtMost ? QStringLiteral("atMost")
                                                      : QStringLiteral("fasterBy"),

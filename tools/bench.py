@@ -98,6 +98,7 @@ def all_figures(build, samples, filters):
     bench = build / "benchmarks/daskel_bench"
     subprocess.run([bench, "--samples", samples], check=True)
     yield from library_figures(bench, samples, filters)
+    yield from library_figures(build / "benchmarks/toolkit_bench", samples, filters)
     programs = build / "app/cli/daskel", build / "benchmarks/list_calendar"
     for count in ROUNDS:
         names = "daskel agenda of 60 days, new process", "peak memory of that process"

@@ -27,7 +27,8 @@ Q_DECLARE_METATYPE(const QMetaObject *)
 namespace
 {
 const QString folder = QStringLiteral(":/daskel/themes/base/");
-const QList<QByteArray> modes{"", "pressed", "selected", "checked", "disabled", "error", "current"};
+const QList<QByteArray> modes{"",         "pressed", "selected", "checked",
+                              "disabled", "error",   "current",  "floating"};
 
 /// The relative luminance and the contrast ratio of WCAG 2.1.
 qreal luminance(const QColor &color)
