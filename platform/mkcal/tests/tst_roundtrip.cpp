@@ -10,6 +10,7 @@
 #include <mkcal/incidencecomparison.h>
 
 #include <KCalendarCore/ICalFormat>
+#include <KCalendarCore/MemoryCalendar>
 
 #include <QRegularExpression>
 #include <QTemporaryDir>
@@ -22,10 +23,12 @@ namespace
 {
 /// What KCalendarCore makes of it, on which our own comparison has no say: without the moment of
 /// writing and the places in memory that stand in for identifiers. A copy is written, since writing
-/// changes some to-dos.
+/// changes some to-dos, and in a calendar: a single incidence is never freed after it was written.
 QString asText(const Incidence &incidence)
 {
-    QString text = ICalFormat().toString(Incidence::Ptr(incidence.clone()));
+    const MemoryCalendar::Ptr calendar(new MemoryCalendar(QTimeZone::utc()));
+    calendar->addIncidence(Incidence::Ptr(incidence.clone()));
+    QString text = ICalFormat().toString(calendar);
     text.remove("\r\n ");
     return text.remove(QRegularExpression("DTSTAMP:\\w+|X-UID=\\d+"));
 }
