@@ -2,13 +2,12 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
 #include <daskel/daskellocale.h>
+#include <touchcore/mcalendar.h>
 
 #include <QCache>
 #include <QDateTime>
 #include <QRegularExpression>
 #include <QStringList>
-
-#include <touchcore/mcalendar.h>
 
 namespace
 {

@@ -2,10 +2,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
 #include <daskel/daskeltranslator.h>
+#include <touchcore/mlocale.h>
 
 #include <QStringList>
-
-#include <touchcore/mlocale.h>
 
 void DaskelTranslator::installLibdaskelTranslationCatalogs(const QStringList &catalogs)
 {

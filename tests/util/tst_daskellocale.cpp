@@ -2,13 +2,13 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
 #include <daskel/daskellocale.h>
+#include <touchcore/mcalendar.h>
 
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QTest>
 
 #include <ctime>
-#include <touchcore/mcalendar.h>
 
 /// The texts of each locale are those of CLDR 42: its patterns and names, put together by hand.
 /// That a text comes from what is kept shows in its being shared with an earlier one.

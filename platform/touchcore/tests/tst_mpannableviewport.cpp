@@ -3,16 +3,16 @@
 
 #include "touchscreen.h"
 
+#include <touchcore/mpannableviewport.h>
+#include <touchcore/mphysics2dpanning.h>
+#include <touchcore/mpositionindicator.h>
+#include <touchcore/mtheme.h>
+
 #include <QGraphicsLinearLayout>
 #include <QGraphicsProxyWidget>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSignalSpy>
-
-#include <touchcore/mpannableviewport.h>
-#include <touchcore/mphysics2dpanning.h>
-#include <touchcore/mpositionindicator.h>
-#include <touchcore/mtheme.h>
 
 namespace
 {
