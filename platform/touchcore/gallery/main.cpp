@@ -30,7 +30,8 @@ const GalleryPage *pageNamed(const QString &id)
 
 int fail(const QString &text)
 {
-    std::fprintf(stderr, "touchcore-gallery: %s\n", qUtf8Printable(text));
+    std::fprintf(stderr, "%s: %s\n", qUtf8Printable(QCoreApplication::applicationName()),
+                 qUtf8Printable(text));
     return exitFailed;
 }
 } // namespace
@@ -39,7 +40,7 @@ int main(int argc, char **argv)
 {
     MApplication application(argc, argv);
     QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral("Shows every widget of the toolkit."));
+    parser.setApplicationDescription(QStringLiteral("Shows every widget."));
     parser.addHelpOption();
     const QCommandLineOption pictures(QStringLiteral("pictures"),
                                       QStringLiteral("Write a picture of each page into DIR."),

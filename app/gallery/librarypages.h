@@ -1,0 +1,12 @@
+// SPDX-FileCopyrightText: 2026 The daskel authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#ifndef LIBRARYPAGES_H
+#define LIBRARYPAGES_H
+
+class QGraphicsWidget;
+
+QGraphicsWidget *makeHeaderPage();
+QGraphicsWidget *makeStatesPage();
+
+#endif
