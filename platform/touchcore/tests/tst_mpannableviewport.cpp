@@ -11,6 +11,7 @@
 #include <QGraphicsLinearLayout>
 #include <QGraphicsProxyWidget>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSignalSpy>
 
@@ -79,7 +80,6 @@ private Q_SLOTS:
     void widgetIsAtLeastAsLargeAsTheViewport_data();
     void widgetIsAtLeastAsLargeAsTheViewport();
     void replacedAndDeletedWidgetsLeaveNothing();
-    void hearsThatTheContentChanged_data();
     void hearsThatTheContentChanged();
     void contentGrowsAboveWithoutMoving();
     void movesByWholePixels();
@@ -103,6 +103,7 @@ private Q_SLOTS:
     void pansByKeys_data();
     void pansByKeys();
     void focusComesIntoView();
+    void cursorStaysInView();
     void indicatorTellsThePlaceAndFades();
     void indicatorStandsAtTheEndOfTheReadingDirection();
 
@@ -175,28 +176,22 @@ void TestMPannableViewport::replacedAndDeletedWidgetsLeaveNothing()
     QCOMPARE(physics()->range().height(), 0.0);
 }
 
-void TestMPannableViewport::hearsThatTheContentChanged_data()
-{
-    QTest::addColumn<bool>("isHidden");
-    QTest::newRow("shown") << false;
-    QTest::newRow("hidden") << true;
-}
-
 /// A widget without a layout around it tells nobody of its size hints: the pane has one.
 void TestMPannableViewport::hearsThatTheContentChanged()
 {
-    QFETCH(bool, isHidden);
-    Content *content = show(1000);
-    TouchScreen::layOut();
-    m_viewport->setVisible(!isHidden);
-    content->setHeight(2000);
-    TouchScreen::layOut();
-    QCOMPARE(content->size().height(), 2000.0);
-    QCOMPARE(physics()->range().height(), 1600.0);
+    for (const bool isHidden : {false, true}) {
+        Content *content = show(1000);
+        TouchScreen::layOut();
+        m_viewport->setVisible(!isHidden);
+        content->setHeight(2000);
+        TouchScreen::layOut();
+        QCOMPARE(content->size().height(), 2000.0);
+        QCOMPARE(physics()->range().height(), 1600.0);
 
-    content->setHeight(500);
-    m_viewport->updateExtent();
-    QCOMPARE(physics()->range().height(), 100.0);
+        content->setHeight(500);
+        m_viewport->updateExtent();
+        QCOMPARE(physics()->range().height(), 100.0);
+    }
 }
 
 /// The content moves the viewport by its growth before it takes its geometry: nothing that is seen
@@ -535,6 +530,32 @@ void TestMPannableViewport::focusComesIntoView()
     QCOMPARE(y(), 540.0);
     m_viewport->resize(360, 150);
     QCOMPARE(y(), 790.0);
+}
+
+void TestMPannableViewport::cursorStaysInView()
+{
+    Content *content = show(2000);
+    auto *edit = new QPlainTextEdit(QString(60, QLatin1Char('\n')));
+    auto *proxy = new QGraphicsProxyWidget(content);
+    proxy->setWidget(edit);
+    proxy->setGeometry(QRectF(0, 0, 360, 2000));
+    proxy->setFocus();
+    const auto cursorAt = [&] {
+        return proxy->mapToItem(m_viewport, edit->cursorRect().center()).y();
+    };
+    for (int line = 0; line < 59; ++line) {
+        QTest::keyClick(m_screen->view.viewport(), Qt::Key_Down);
+        QCoreApplication::processEvents();
+        QVERIFY(cursorAt() > 0 && cursorAt() < 400);
+    }
+    QVERIFY(y() > 100);
+
+    // Moved away by a finger, it comes back with the next letter.
+    m_viewport->setPosition(QPointF(0, 0));
+    QCoreApplication::processEvents();
+    QCOMPARE(y(), 0.0);
+    QTest::keyClick(m_screen->view.viewport(), Qt::Key_X);
+    QTRY_VERIFY(cursorAt() < 400);
 }
 
 void TestMPannableViewport::indicatorTellsThePlaceAndFades()

@@ -1,8 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The daskel authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
+#include "focusfollower.h"
 #include "panelayout.h"
 #include "pangesture.h"
+#include "panstep.h"
 #include "wheelwatcher.h"
 
 #include <touchcore/mpannableviewport.h>
@@ -12,7 +14,6 @@
 #include <QCoreApplication>
 #include <QGraphicsScene>
 #include <QGraphicsSceneMouseEvent>
-#include <QGraphicsSceneWheelEvent>
 #include <QKeyEvent>
 #include <QPointer>
 #include <QScopedValueRollback>
@@ -23,9 +24,6 @@
 
 namespace
 {
-const qreal degreesPerNotch = 15;
-const qreal angleUnit = 8;
-
 bool hasTabStop(const QGraphicsWidget *widget)
 {
     if ((widget->focusPolicy() & Qt::TabFocus) && widget->isEnabled() && widget->isVisible())
@@ -51,7 +49,7 @@ public:
     explicit MPannableViewportPrivate(MPannableViewport *owner)
         : q(owner), pane(new QGraphicsWidget(owner)),
           layout(new PaneLayout(pane, [owner] { owner->updateExtent(); })),
-          indicator(new MPositionIndicator(owner)), gesture(owner)
+          indicator(new MPositionIndicator(owner)), gesture(owner), focusFollower(owner)
     {
         pane->setFlag(QGraphicsItem::ItemHasNoContents);
         grabCheck.setSingleShot(true);
@@ -60,8 +58,7 @@ public:
 
     QSizeF widgetSize() const;
     void show(const QPointF &position);
-    void followFocus(QGraphicsItem *focused);
-    void panByKey(QKeyEvent *event);
+    bool pan(const PanStep &step);
     void abandonIfUngrabbed();
 
     MPannableViewport *q;
@@ -78,7 +75,7 @@ public:
     MPannableViewport::PanningPolicy horizontalPolicy = MPannableViewport::PanningAlwaysOff;
     bool isUpdatingExtent = false;
     bool isExtentOutdated = false;
-    QMetaObject::Connection focusConnection;
+    FocusFollower focusFollower;
     QPointer<QWidget> watchedWidget;
 };
 
@@ -101,53 +98,12 @@ void MPannableViewportPrivate::show(const QPointF &position)
     Q_EMIT q->positionChanged(position);
 }
 
-void MPannableViewportPrivate::followFocus(QGraphicsItem *focused)
+/// Answers whether anything moved.
+bool MPannableViewportPrivate::pan(const PanStep &step)
 {
-    if (!widget() || !focused || !widget()->isAncestorOf(focused))
-        return;
-    const QRectF area = focused->mapRectToItem(widget(), focused->boundingRect());
-    if (area.height() <= q->size().height())
-        q->ensureVisible(area);
-}
-
-void MPannableViewportPrivate::panByKey(QKeyEvent *event)
-{
-    const qreal step = q->style()->panStep();
-    const qreal page = qMax(step, q->size().height() - step);
-    const qreal all = physics->range().height() + page;
-    const bool isVertical = q->pannableDirections() & Qt::Vertical;
-    QPointF way;
-    switch (event->key()) {
-    case Qt::Key_Up:
-        way.setY(-step);
-        break;
-    case Qt::Key_Down:
-        way.setY(step);
-        break;
-    case Qt::Key_PageUp:
-        way.setY(-page);
-        break;
-    case Qt::Key_PageDown:
-        way.setY(page);
-        break;
-    case Qt::Key_Home:
-        way.setY(-all);
-        break;
-    case Qt::Key_End:
-        way.setY(all);
-        break;
-    case Qt::Key_Left:
-        way.setX(-step);
-        break;
-    case Qt::Key_Right:
-        way.setX(step);
-        break;
-    default:
-        break;
-    }
-    const bool isPannable =
-        way.x() != 0 ? bool(q->pannableDirections() & Qt::Horizontal) : way.y() != 0 && isVertical;
-    event->setAccepted(isPannable && physics->glideBy(way));
+    if (step.way.isNull())
+        return false;
+    return step.isExact ? physics->moveBy(step.way) : physics->glideBy(step.way);
 }
 
 void MPannableViewportPrivate::abandonIfUngrabbed()
@@ -169,7 +125,7 @@ MPannableViewport::MPannableViewport(QGraphicsItem *parent)
 
 MPannableViewport::~MPannableViewport()
 {
-    disconnect(d->focusConnection);
+    d->focusFollower.setScene(nullptr);
     // The pane's layout calls back into the private part.
     delete d->pane;
 }
@@ -332,6 +288,10 @@ bool MPannableViewport::sceneEventFilter(QGraphicsItem *, QEvent *event)
         if (d->gesture.isFollowing())
             d->grabCheck.start();
         return false;
+    case QEvent::KeyPress:
+    case QEvent::InputMethod:
+        d->focusFollower.expectCursor();
+        return false;
     default:
         return false;
     }
@@ -362,31 +322,14 @@ void MPannableViewport::ungrabMouseEvent(QEvent *event)
 
 void MPannableViewport::wheelEvent(QGraphicsSceneWheelEvent *event)
 {
-    const Qt::Orientations directions = pannableDirections();
-    const QPointF pixels = WheelWatcher::pixelDelta();
-    const qreal notches = event->delta() / angleUnit / degreesPerNotch;
-    QPointF way = pixels;
-    if (pixels.isNull()) {
-        const qreal distance = notches * style()->panStep();
-        // A plain wheel also pans what can only be panned sideways.
-        const bool isSideways =
-            event->orientation() == Qt::Horizontal || !(directions & Qt::Vertical);
-        way = isSideways ? QPointF(distance, 0) : QPointF(0, distance);
-    }
-    if (!(directions & Qt::Horizontal))
-        way.setX(0);
-    if (!(directions & Qt::Vertical))
-        way.setY(0);
-    if (way.isNull()) {
-        event->ignore();
-        return;
-    }
-    event->setAccepted(pixels.isNull() ? d->physics->glideBy(-way) : d->physics->moveBy(-way));
+    const PanStep step = PanStep::ofWheel(*event, style()->panStep(), pannableDirections());
+    event->setAccepted(d->pan(step));
 }
 
 void MPannableViewport::keyPressEvent(QKeyEvent *event)
 {
-    d->panByKey(event);
+    const PanStep step = PanStep::ofKey(*event, style()->panStep(), size());
+    event->setAccepted(d->pan(step.within(pannableDirections())));
     if (!event->isAccepted())
         MStylableWidget::keyPressEvent(event);
 }
@@ -397,24 +340,13 @@ void MPannableViewport::resizeEvent(QGraphicsSceneResizeEvent *event)
     d->indicator->setGeometry(rect());
     updateExtent();
     // What is being written in stays in view when an on-screen keyboard takes its room.
-    if (scene())
-        d->followFocus(scene()->focusItem());
+    d->focusFollower.follow();
 }
 
 QVariant MPannableViewport::itemChange(GraphicsItemChange change, const QVariant &value)
 {
-    if (change == ItemSceneHasChanged) {
-        disconnect(d->focusConnection);
-        if (scene()) {
-            d->focusConnection =
-                connect(scene(), &QGraphicsScene::focusItemChanged, this,
-                        [this](QGraphicsItem *focused, QGraphicsItem *, Qt::FocusReason reason) {
-                            // What was touched is in view, and must not move away below the finger.
-                            if (reason != Qt::MouseFocusReason)
-                                d->followFocus(focused);
-                        });
-        }
-    }
+    if (change == ItemSceneHasChanged)
+        d->focusFollower.setScene(scene());
     return MStylableWidget::itemChange(change, value);
 }
 

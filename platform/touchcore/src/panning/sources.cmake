@@ -9,11 +9,13 @@ set(TOUCHCORE_PANNING_HEADERS
     include/touchcore/mpositionindicatorstyle.h
 )
 set(TOUCHCORE_PANNING_SOURCES
+    src/panning/focusfollower.cpp
     src/panning/mpannableviewport.cpp
     src/panning/mphysics2dpanning.cpp
     src/panning/mpositionindicator.cpp
     src/panning/panaxis.cpp
     src/panning/panelayout.cpp
     src/panning/pangesture.cpp
+    src/panning/panstep.cpp
     src/panning/wheelwatcher.cpp
 )
