@@ -63,7 +63,9 @@ private Q_SLOTS:
     void historyReplacedForwards();
     void dismissedPageRevealsHistory();
     void windowsDeletedOutside();
+    void deletedBySignals_data();
     void deletedBySignals();
+    void turnedRoundBySignals();
     void movesBetweenWindows();
     void appearsInTheScene();
     void focusComesBack();
@@ -114,6 +116,8 @@ void TestMSceneManager::animates()
     // The calls that say so do not wait, not even for a transition that runs.
     page->appear(&window);
     window.sceneManager()->appearSceneWindowNow(page);
+    QCOMPARE(page->sceneWindowState(), MSceneWindow::Appeared);
+    QCOMPARE(page->pos(), QPointF(0, 0));
     window.sceneManager()->dismissSceneWindow(page);
     window.sceneManager()->dismissSceneWindowNow(page);
     QCOMPARE(page->sceneWindowState(), MSceneWindow::Disappeared);
@@ -405,20 +409,44 @@ void TestMSceneManager::windowsDeletedOutside()
     QVERIFY(!late);
 }
 
+void TestMSceneManager::deletedBySignals_data()
+{
+    QTest::addColumn<bool>("isAnimated");
+    QTest::newRow("at once") << false;
+    QTest::newRow("animated") << true;
+}
+
 void TestMSceneManager::deletedBySignals()
 {
+    QFETCH(bool, isAnimated);
     SceneTest window;
+    MSceneManager::setAnimationsEnabled(isAnimated);
     using Signal = void (MSceneWindow::*)();
     for (Signal signal : {&MSceneWindow::appearing, &MSceneWindow::appeared,
                           &MSceneWindow::disappearing, &MSceneWindow::disappeared}) {
         QPointer<MDialog> dialog(new MDialog);
+        connect(dialog.data(), &MSceneWindow::appeared, dialog.data(), &MSceneWindow::disappear);
         connect(dialog.data(), signal, this, [&dialog] { delete dialog.data(); });
         dialog->appear(&window);
-        if (dialog)
-            dialog->disappear();
-        QVERIFY(!dialog);
+        QTRY_VERIFY(!dialog);
     }
     QVERIFY(window.sceneManager()->sceneWindows().isEmpty());
+}
+
+void TestMSceneManager::turnedRoundBySignals()
+{
+    SceneTest window;
+    MSceneManager::setAnimationsEnabled(true);
+    auto *dialog = new MDialog;
+    int turns = 0;
+    connect(dialog, &MSceneWindow::disappeared, this, [&] {
+        if (++turns < 3)
+            dialog->appear(&window);
+    });
+    connect(dialog, &MSceneWindow::appeared, dialog, &MSceneWindow::disappear);
+    dialog->appear(&window);
+    QTRY_COMPARE(turns, 3);
+    QCOMPARE(dialog->sceneWindowState(), MSceneWindow::Disappeared);
 }
 
 void TestMSceneManager::movesBetweenWindows()

@@ -462,6 +462,14 @@ void TestMWindow::showsTheBackground()
     MTheme::instance()->setColorScheme(M::DarkScheme);
     QCOMPARE(window.grab().toImage().pixelColor(200, 300),
              MTheme::instance()->color(QStringLiteral("background")));
+    // Also through a page that does not paint all of it.
+    QVERIFY(MTheme::instance()->load(R"({"styles": {"Empty": {"backgroundColor": ""}}})",
+                                     QStringLiteral("test")));
+    MApplicationPage *page = SceneTest::makePage();
+    page->setStyleName(QStringLiteral("Empty"));
+    page->appear(&window);
+    QCOMPARE(window.grab().toImage().pixelColor(200, 300),
+             MTheme::instance()->color(QStringLiteral("background")));
     MTheme::instance()->setColorScheme(M::LightScheme);
 }
 

@@ -31,6 +31,8 @@ public:
 
     void setHistory(const QList<MSceneWindow *> &windows);
     MSceneWindow *topWindow() const;
+    /// Whether something opaque fills the window, so that nothing behind it need be painted.
+    bool hidesBackground() const;
     /// Brings visibility, display state and focus in line with what is shown.
     void update();
     /// Gives the top window's panel the focus, which an inactive window refused.

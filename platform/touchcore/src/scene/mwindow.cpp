@@ -225,5 +225,6 @@ void MWindow::contextMenuEvent(QContextMenuEvent *event)
 
 void MWindow::drawBackground(QPainter *painter, const QRectF &rect)
 {
-    painter->fillRect(rect, MTheme::instance()->color(QStringLiteral("background")));
+    if (!d->manager->d->hidesBackground())
+        painter->fillRect(rect, MTheme::instance()->color(QStringLiteral("background")));
 }

@@ -9,6 +9,8 @@
 
 #include <QGraphicsScene>
 
+#include <algorithm>
+
 namespace
 {
 /// The first, or the last, that the Tab key stops at, in the order in which the widgets were made.
@@ -62,6 +64,15 @@ bool MSceneManagerPrivate::fillsWindow(const MSceneWindow *candidate) const
         && candidate->geometry().contains(root->rect());
 }
 
+bool MSceneManagerPrivate::hidesBackground() const
+{
+    return std::any_of(shown.begin(), shown.end(), [this](const MSceneWindow *candidate) {
+        const MSceneWindowStyle *style = candidate->style();
+        return fillsWindow(candidate) && style->cornerRadius() == 0
+            && style->backgroundColor().isValid() && style->backgroundColor().alpha() == 255;
+    });
+}
+
 bool MSceneManagerPrivate::isCovered(const MSceneWindow *candidate) const
 {
     for (int i = shown.indexOf(const_cast<MSceneWindow *>(candidate)) + 1; i < shown.size(); ++i) {
@@ -80,6 +91,9 @@ void MSceneManagerPrivate::updateVisibility()
     const QList<MSceneWindow *> windows = shown;
     for (auto it = windows.crbegin(); it != windows.crend(); ++it) {
         MSceneWindow *candidate = *it;
+        // Those who enter or leave the display may show and delete others.
+        if (!shown.contains(candidate))
+            continue;
         candidate->setVisible(!isHidden);
         if (candidate->d->dim)
             candidate->d->dim->setVisible(!isHidden && !fillsWindow(candidate));

@@ -83,7 +83,8 @@ void MSceneManagerPrivate::tellOrientation() const
 
 void MSceneManagerPrivate::placeAll()
 {
-    for (MSceneWindow *shownWindow : qAsConst(shown)) {
+    const QList<MSceneWindow *> windows = shown;
+    for (MSceneWindow *shownWindow : windows) {
         shownWindow->setGeometry(shownWindow->place(root->size()));
         if (shownWindow->d->dim)
             shownWindow->d->dim->adaptToParent();
@@ -135,6 +136,8 @@ void MSceneManagerPrivate::appear(MSceneWindow *appearing, MSceneWindow::Deletio
         if (!isCovered(appearing)) {
             dismissForgotten(appearing, false, false);
             update();
+            if (d->state == MSceneWindow::Appearing && !isAnimated)
+                run(appearing, true, false);
             return;
         }
         d->progress = 0;
@@ -160,7 +163,8 @@ void MSceneManagerPrivate::enter(MSceneWindow *entering, bool isAnimated)
     if (hasHistory(entering))
         dismissForgotten(entering, true, isAnimated);
     update();
-    Q_EMIT entering->appearing();
+    if (guard)
+        Q_EMIT entering->appearing();
     if (guard && entering->d->state == MSceneWindow::Appearing)
         run(entering, true, isAnimated);
 }
@@ -197,7 +201,11 @@ void MSceneManagerPrivate::restack()
 
 void MSceneManagerPrivate::run(MSceneWindow *moving, bool isEntering, bool isAnimated)
 {
-    delete moving->d->transition;
+    if (SceneTransition *running = moving->d->transition) {
+        // It may be its own end that leads here.
+        running->disconnect(q);
+        running->stop();
+    }
     const auto finish = [this, moving, isEntering] {
         if (isEntering)
             finishAppearing(moving);
@@ -216,12 +224,14 @@ void MSceneManagerPrivate::run(MSceneWindow *moving, bool isEntering, bool isAni
 
 void MSceneManagerPrivate::finishAppearing(MSceneWindow *entered)
 {
+    const QPointer<MSceneWindow> guard(entered);
     SceneTransition::showProgress(entered, 1);
     entered->d->state = MSceneWindow::Appeared;
     if (hasHistory(entered))
         dismissForgotten(entered, false, false);
     update();
-    Q_EMIT entered->appeared();
+    if (guard)
+        Q_EMIT entered->appeared();
 }
 
 void MSceneManagerPrivate::disappear(MSceneWindow *leaving, bool isAnimated)
