@@ -2,10 +2,16 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
 #include "testtable.h"
+#include "visibilitycontainerwidget_p.h"
 
+#include <daskel/calendarconf.h>
+#include <daskel/clickablelabel.h>
 #include <daskel/db_instance.h>
+#include <daskel/dskmphysics2dpanning.h>
 #include <daskel/expandedincidencescache.h>
 #include <daskel/notebookmanager.h>
+#include <daskel/pageswitcher.h>
+#include <daskel/timerservice.h>
 
 #include <QMetaMethod>
 #include <QtTest>
@@ -45,6 +51,23 @@ void MetaObjectsTest::methods_data()
            QStringList{"signal notebooksChanged()",
                        "signal notebooksModified(NotebookManager::ModifyError)",
                        "slot dataUpdated()"});
+    addRow("CalendarConf", &CalendarConf::staticMetaObject,
+           QStringList{"signal dataUpdated()", "slot settingsFileChanged(QString)",
+                       "slot syncSettingsCallback()"});
+    addRow("TimerService", &TimerService::staticMetaObject,
+           QStringList{"signal minuteChanged()", "signal hourChanged()", "signal dateChanged()",
+                       "slot enable()", "slot disable()", "slot timerExpired()",
+                       "slot qmTimeOrSettingsChanged()"});
+    addRow("PageSwitcher", &PageSwitcher::staticMetaObject,
+           QStringList{"slot backClicked()", "slot hideTopSheetPageNow()",
+                       "slot dialogDestroyed(QObject*)"});
+    addRow("DskMPhysics2DPanning", &DskMPhysics2DPanning::staticMetaObject,
+           QStringList{"signal pointerReleased()"});
+    addRow("VisibilityContainerWidgetPrivate", &VisibilityContainerWidgetPrivate::staticMetaObject,
+           QStringList{"signal updateChild()", "slot dataUpdated()", "slot configUpdated()",
+                       "slot dateChanged()", "slot hourChanged()", "slot minuteChanged()",
+                       "slot queuedUpdateChild()", "slot notebooksChanged()"});
+    addRow("ClickableLabel", &ClickableLabel::staticMetaObject, QStringList{"signal clicked()"});
 }
 
 void MetaObjectsTest::methods()
