@@ -19,6 +19,7 @@ foreach(test tst_mcalendar tst_mcatalogues tst_mdesktopclock tst_mlocale tst_mlo
     daskel_add_test(${test} LINK tarvotouchcore)
 endforeach()
 add_dependencies(tst_mcatalogues touchcore_test_catalogues)
+target_sources(tst_mdesktopclock PRIVATE fakeportal.h)
 target_link_libraries(tst_mdesktopclock PRIVATE Qt5::DBus)
 # It starts a message bus of its own.
 target_include_directories(tst_mdesktopclock PRIVATE ${PROJECT_SOURCE_DIR}/platform/systemtime/tests)

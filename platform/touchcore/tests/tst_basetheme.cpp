@@ -109,6 +109,18 @@ QStringList fewestFaults(const Rules &theme, const QString &className, const QSt
     }
     return fewest;
 }
+
+/// The style of a button, a label or a row as the process's theme gives it.
+QSharedPointer<const MStyle> styleOf(const QMetaObject *widget, const QString &name,
+                                     const QByteArray &mode)
+{
+    if (widget == &MButton::staticMetaObject) {
+        return MTheme::instance()->style([] { return new MButtonStyle; },
+                                         &MButtonStyle::staticMetaObject, widget, name, mode);
+    }
+    return MTheme::instance()->style([] { return new MLabelStyle; }, &MLabelStyle::staticMetaObject,
+                                     widget, name, mode);
+}
 } // namespace
 
 /// The look that people get: what the colours, the rules and the pictures of the theme promise.
@@ -127,8 +139,6 @@ private Q_SLOTS:
     void targetsAreLargeEnough();
     void textStandsOutFromItsFrame_data();
     void textStandsOutFromItsFrame();
-    void textIsReadable_data();
-    void textIsReadable();
     void iconsKeepToTheGrid_data();
     void iconsKeepToTheGrid();
     void turnsOnlyPicturesThatItHas();
@@ -246,16 +256,10 @@ void TestBaseTheme::targetsAreLargeEnough()
 {
     QFETCH(const QMetaObject *, widget);
     QFETCH(QString, styleName);
-    const bool isButton = widget == &MButton::staticMetaObject;
-    const auto make = [isButton]() -> MStyle * {
-        return isButton ? new MButtonStyle : new MWidgetStyle;
-    };
     for (const M::Orientation orientation : {M::Portrait, M::Landscape}) {
         MTheme::instance()->setOrientation(orientation);
         for (const QByteArray &mode : modes) {
-            const auto style = MTheme::instance()->style(
-                make, isButton ? &MButtonStyle::staticMetaObject : &MWidgetStyle::staticMetaObject,
-                widget, styleName, mode);
+            const auto style = styleOf(widget, styleName, mode);
             const QSizeF least =
                 static_cast<const MWidgetStyle *>(style.data())->sizeHint(Qt::MinimumSize);
             QVERIFY2(least.width() >= 48 && least.height() >= 48,
@@ -293,14 +297,8 @@ void TestBaseTheme::textStandsOutFromItsFrame()
     QFETCH(QString, styleName);
     MTheme *theme = MTheme::instance();
     theme->setColorScheme(scheme);
-    const bool isButton = widget == &MButton::staticMetaObject;
-    const auto make = [isButton]() -> MStyle * {
-        return isButton ? static_cast<MStyle *>(new MButtonStyle) : new MLabelStyle;
-    };
-    const QMetaObject *styleClass =
-        isButton ? &MButtonStyle::staticMetaObject : &MLabelStyle::staticMetaObject;
     for (const QByteArray &mode : {QByteArray(), QByteArray("pressed"), QByteArray("checked")}) {
-        const auto style = theme->style(make, styleClass, widget, styleName, mode);
+        const auto style = styleOf(widget, styleName, mode);
         const auto color = style->property("color").value<QColor>();
         const auto frame = style->property("backgroundColor").value<QColor>();
         const qreal ratio = frame.isValid()
@@ -309,23 +307,6 @@ void TestBaseTheme::textStandsOutFromItsFrame()
                    contrast(color, theme->color(QStringLiteral("surface"))));
         QVERIFY2(ratio >= 4.5, qPrintable(QStringLiteral("%1: %2").arg(mode.data()).arg(ratio)));
     }
-}
-
-void TestBaseTheme::textIsReadable_data()
-{
-    QTest::addColumn<QString>("font");
-    QTest::addColumn<int>("pixels");
-    QTest::newRow("display") << QStringLiteral("display") << 28;
-    QTest::newRow("title") << QStringLiteral("title") << 20;
-    QTest::newRow("body") << QStringLiteral("body") << 16;
-    QTest::newRow("support") << QStringLiteral("support") << 14;
-    QTest::newRow("caption, the smallest of all") << QStringLiteral("caption") << 12;
-}
-
-void TestBaseTheme::textIsReadable()
-{
-    QFETCH(QString, font);
-    QTEST(MTheme::instance()->font(font).pixelSize(), "pixels");
 }
 
 void TestBaseTheme::iconsKeepToTheGrid_data()

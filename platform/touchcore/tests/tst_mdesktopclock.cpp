@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The daskel authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
+#include "fakeportal.h"
 #include "localeenvironment.h"
 #include "privatebus.h"
 
@@ -11,44 +12,9 @@
 
 namespace
 {
-const QString service = QStringLiteral("org.freedesktop.portal.Desktop");
-const QString path = QStringLiteral("/org/freedesktop/portal/desktop");
 const QString desktop = QStringLiteral("org.gnome.desktop.interface");
 const QString clockFormat = QStringLiteral("clock-format");
 } // namespace
-
-/// The desktop as far as it knows of clocks.
-class FakePortal : public QObject
-{
-    Q_OBJECT
-    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.Settings")
-public:
-    bool start(QDBusConnection bus)
-    {
-        return bus.registerObject(
-                   path, this, QDBusConnection::ExportAllSlots | QDBusConnection::ExportAllSignals)
-            && bus.registerService(service);
-    }
-    void choose(const QString &value)
-    {
-        m_value = value;
-        Q_EMIT SettingChanged(desktop, clockFormat, QDBusVariant(value));
-    }
-
-public Q_SLOTS:
-    QDBusVariant Read(const QString &group, const QString &key) const // NOLINT: the portal's name
-    {
-        const bool known = group == desktop && key == clockFormat;
-        return QDBusVariant(QVariant::fromValue(QDBusVariant(known ? m_value : QString())));
-    }
-
-Q_SIGNALS:
-    void SettingChanged(const QString &group, const QString &key, // NOLINT: the portal's name
-                        const QDBusVariant &value);
-
-private:
-    QString m_value = QStringLiteral("24h");
-};
 
 /// The clock that the person chooses in the settings of the desktop, over a bus of the test's own.
 /// The process follows it from the first connectSettings() on, so that this is one story.
@@ -72,13 +38,13 @@ private:
     }
 
     PrivateBus m_bus;
-    FakePortal m_portal;
+    FakePortal m_portal{desktop, clockFormat};
 };
 
 void TestMDesktopClock::initTestCase()
 {
     qputenv("DBUS_SESSION_BUS_ADDRESS", m_bus.address().toUtf8());
-    QVERIFY(m_portal.start(m_bus.connection(QStringLiteral("portal"))));
+    QVERIFY(m_portal.start(m_bus.connection(QStringLiteral("portal")), QStringLiteral("24h")));
 }
 
 void TestMDesktopClock::staysAsTheLocaleIsUntilItIsConnected()

@@ -51,14 +51,12 @@ private Q_SLOTS:
     void initTestCase();
     void isSharp_data();
     void isSharp();
-    void staysOnPixelsUnderATranslatedPainter();
     void takesTheTint();
     void turnsRoundFromRightToLeft_data();
     void turnsRoundFromRightToLeft();
     void keepsTheBordersOfANinePatch_data();
     void keepsTheBordersOfANinePatch();
     void shrinksBordersThatDoNotFit();
-    void stretchesBitmaps();
     void knowsItsSize_data();
     void knowsItsSize();
     void drawsNothingWithoutAPicture_data();
@@ -89,36 +87,36 @@ void TestMScalableImage::initTestCase()
 void TestMScalableImage::isSharp_data()
 {
     QTest::addColumn<qreal>("scale");
+    QTest::addColumn<QPointF>("origin"); // of the painter
     QTest::addColumn<QPointF>("corner");
     QTest::addColumn<QPoint>("pixel");
-    QTest::newRow("scale 1") << 1.0 << QPointF(4, 4) << QPoint(4, 4);
-    QTest::newRow("scale 1 between pixels") << 1.0 << QPointF(4.5, 3.4) << QPoint(5, 3);
-    QTest::newRow("scale 1.5") << 1.5 << QPointF(4, 4) << QPoint(6, 6);
-    QTest::newRow("scale 2") << 2.0 << QPointF(4, 4) << QPoint(8, 8);
-    QTest::newRow("scale 2 on half a pixel") << 2.0 << QPointF(4.5, 4.3) << QPoint(9, 9);
-    QTest::newRow("scale 3") << 3.0 << QPointF(4, 4) << QPoint(12, 12);
+    const auto row = [](const char *name, qreal scale, const QPointF &origin, const QPointF &corner,
+                        const QPoint &pixel) {
+        QTest::newRow(name) << scale << origin << corner << pixel;
+    };
+    row("scale 1", 1, {0, 0}, {4, 4}, {4, 4});
+    row("scale 1 between pixels", 1, {0, 0}, {4.5, 3.4}, {5, 3});
+    row("scale 1.5", 1.5, {0, 0}, {4, 4}, {6, 6});
+    row("scale 2 on half a pixel", 2, {0, 0}, {4.5, 4.3}, {9, 9});
+    row("scale 2 below a moved item", 2, {1.3, 2.7}, {1, 1}, {5, 7});
+    row("scale 3", 3, {0, 0}, {4, 4}, {12, 12});
 }
 
 void TestMScalableImage::isSharp()
 {
     QFETCH(qreal, scale);
+    QFETCH(QPointF, origin);
     QFETCH(QPointF, corner);
     QFETCH(QPoint, pixel);
     const QString id = QStringLiteral("settings");
-    const QImage image = drawn(MScalableImage(id), {32, 32}, {corner, QSizeF(24, 24)}, scale);
-    const int pixels = qRound(24 * scale);
-    QCOMPARE(image.copy(QRect(pixel, QSize(pixels, pixels))), rendered(id, pixels));
-}
-
-void TestMScalableImage::staysOnPixelsUnderATranslatedPainter()
-{
-    QImage image = canvas({32, 32}, 2);
+    QImage image = canvas({32, 32}, scale);
     QPainter painter(&image);
-    painter.translate(1.3, 2.7);
-    MScalableImage(QStringLiteral("close")).draw({1, 1, 24, 24}, &painter);
+    painter.translate(origin);
+    MScalableImage(id).draw({corner, QSizeF(24, 24)}, &painter);
     painter.end();
     image.setDevicePixelRatio(1);
-    QCOMPARE(image.copy(5, 7, 48, 48), rendered(QStringLiteral("close"), 48));
+    const int pixels = qRound(24 * scale);
+    QCOMPARE(image.copy(QRect(pixel, QSize(pixels, pixels))), rendered(id, pixels));
 }
 
 void TestMScalableImage::takesTheTint()
@@ -193,14 +191,6 @@ void TestMScalableImage::shrinksBordersThatDoNotFit()
     QCOMPARE(image.pixelColor(4, 2), QColor(Qt::red));
     QCOMPARE(image.pixelColor(7, 9), QColor(Qt::red));
     QCOMPARE(image.pixelColor(5, 5), QColor(Qt::blue));
-}
-
-void TestMScalableImage::stretchesBitmaps()
-{
-    const QImage image = drawn(MScalableImage(m_frame), {24, 20}, {0, 0, 24, 20});
-    QCOMPARE(image.pixelColor(5, 5), QColor(Qt::red));
-    QCOMPARE(image.pixelColor(12, 10), QColor(Qt::green));
-    QCOMPARE(image.pixelColor(23, 10), QColor(Qt::blue));
 }
 
 void TestMScalableImage::knowsItsSize_data()

@@ -72,7 +72,6 @@ private Q_SLOTS:
     void convertsValues_data();
     void convertsValues();
     void fontsHaveFamilies();
-    void fontsGrowWithTheTextScale();
     void takesColorsOfTheScheme_data();
     void takesColorsOfTheScheme();
     void warns_data();
@@ -237,14 +236,6 @@ void TestStyleRules::fontsHaveFamilies()
     QVERIFY(note.italic());
     QCOMPARE(note.weight(), int(QFont::Bold));
     QVERIFY(!theme.m_values.font(QStringLiteral("20px")));
-}
-
-void TestStyleRules::fontsGrowWithTheTextScale()
-{
-    Rules theme;
-    QVERIFY(theme.read(R"({"fonts": {"body": "16px"}})"));
-    theme.m_values.textScale = 1.3;
-    QCOMPARE(theme.m_values.font(QStringLiteral("body"))->pixelSize(), 21);
 }
 
 void TestStyleRules::takesColorsOfTheScheme_data()
