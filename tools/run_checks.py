@@ -171,7 +171,6 @@ def main():
         "layers and sources": lambda: check_sources(report),
         "tests, address and undefined": lambda: check_sanitized(report, "asan"),
         "tests, thread": lambda: check_sanitized(report, "tsan", "-L", "threaded"),
-        "public headers alone": lambda: build(report, "tidy"),
         "clang-tidy": lambda: check_lint(report, arguments.all),
         "install": lambda: check_installed(report),
     }
