@@ -17,19 +17,21 @@ QDateTime KCalCompat::firstPass(const QDateTime &shown)
     if (!isZoned && shown.timeSpec() != Qt::LocalTime)
         return shown;
     const QTimeZone zone = isZoned ? shown.timeZone() : QTimeZone();
-    const auto there = [&](qint64 moment) {
-        return isZoned ? QDateTime::fromMSecsSinceEpoch(moment, zone)
-                       : QDateTime::fromMSecsSinceEpoch(moment);
+    // Asked for each date-time that is read: a zone tells its offset faster than a date-time in it.
+    const auto offsetAt = [&](qint64 moment) {
+        return isZoned ? zone.offsetFromUtc(QDateTime::fromMSecsSinceEpoch(moment, Qt::UTC))
+                       : QDateTime::fromMSecsSinceEpoch(moment).offsetFromUtc();
     };
     // QDateTime::toMSecsSinceEpoch() looks the offset up anew at every call.
     const int offset = shown.offsetFromUtc();
     const qint64 moment =
         QDateTime(shown.date(), shown.time(), Qt::UTC).toMSecsSinceEpoch() - offset * 1000LL;
-    const int offsetBefore = there(moment - longestRepetition).offsetFromUtc();
+    const int offsetBefore = offsetAt(moment - longestRepetition);
     if (offsetBefore <= offset)
         return shown;
     const qint64 firstMoment = moment - (offsetBefore - offset) * 1000LL;
-    const QDateTime first = there(firstMoment);
+    const QDateTime first = isZoned ? QDateTime::fromMSecsSinceEpoch(firstMoment, zone)
+                                    : QDateTime::fromMSecsSinceEpoch(firstMoment);
     const bool isShownTwice =
         first.offsetFromUtc() == offsetBefore && first.toMSecsSinceEpoch() == firstMoment;
     return isShownTwice ? first : shown;

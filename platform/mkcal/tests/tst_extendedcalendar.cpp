@@ -134,6 +134,11 @@ void TestExtendedCalendar::days_data()
         {2, 4});
     row("recurring to-do",
         recurring(newTodo("a", "2011-05-02T10:00"), "FREQ=DAILY;INTERVAL=2;COUNT=2"), {2, 4});
+    row("recurring to-do, on its due dates",
+        recurring(with(newTodo("a", "2011-05-03T10:00"),
+                       [](auto &todo) { todo.setDtStart(at("2011-05-01T10:00")); }),
+                  "FREQ=DAILY;INTERVAL=2;COUNT=2"),
+        {3, 5});
 }
 
 void TestExtendedCalendar::days()

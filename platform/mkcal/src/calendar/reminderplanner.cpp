@@ -4,6 +4,7 @@
 #include "reminderplanner.h"
 
 #include "occurrences.h"
+#include "seriesrules.h"
 
 #include <KCalendarCore/Todo>
 
@@ -173,6 +174,11 @@ void Planner::addSeries(const KCalCore::Incidence::Ptr &series,
     const auto todo = series.dynamicCast<KCalCore::Todo>();
     const QDateTime current = todo ? todo->dtRecurrence() : QDateTime();
     const TimeSpan reach = reachOf(alarms, lead, m_from, m_to);
+    // KCalendarCore counts a series that is over out, only to find that nothing follows.
+    const TimeSpan life = lifeOfSeries(*series, spanOf(*series, m_clock), exceptions, m_clock);
+    if (life.end < reach.start || life.start > reach.end) {
+        return;
+    }
     const auto plan = [&](const Occurrence &occurrence, const SeriesWalk &walk) {
         const QDateTime recurrenceId = walk.recurrenceId();
         const bool isDone = current.isValid() && recurrenceId < current;

@@ -84,30 +84,6 @@ int occurrencesPerPeriod(const RecurrenceRule &rule)
     return days.contains(0) ? 0 : days.size();
 }
 
-/// A moment that the last occurrence of a rule with a count does not pass; null when only counting
-/// them would tell.
-QDateTime boundOfCount(const RecurrenceRule &rule)
-{
-    const int perPeriod = occurrencesPerPeriod(rule);
-    if (perPeriod == 0) {
-        return {};
-    }
-    const qint64 count = rule.duration();
-    const bool isPlain = rule.byDays().isEmpty() && rule.byMonthDays().isEmpty();
-    const qint64 periods = isPlain ? count - 1 : (count + perPeriod - 1) / perPeriod;
-    const qint64 steps = periods * rule.frequency();
-    // Nothing that has a date goes on for so long.
-    if (steps > std::numeric_limits<qint32>::max()) {
-        return {};
-    }
-    const QDateTime start = rule.startDt();
-    if (const int seconds = secondsOfPeriod(rule.recurrenceType())) {
-        return start.addSecs(steps * seconds);
-    }
-    const QDate date = addPeriods(start.date(), rule.recurrenceType(), steps);
-    return date.isValid() ? atWallClock(date, start.time(), start.timeZone()) : QDateTime();
-}
-
 /// Such as 30 February: KCalendarCore looks through ten thousand years for it.
 bool namesImpossibleDates(const RecurrenceRule &rule)
 {
@@ -220,6 +196,28 @@ QDateTime lastOf(const RecurrenceRule &rule)
 }
 } // namespace
 
+QDateTime boundOfCount(const RecurrenceRule &rule)
+{
+    const int perPeriod = occurrencesPerPeriod(rule);
+    if (perPeriod == 0) {
+        return {};
+    }
+    const qint64 count = rule.duration();
+    const bool isPlain = rule.byDays().isEmpty() && rule.byMonthDays().isEmpty();
+    const qint64 periods = isPlain ? count - 1 : (count + perPeriod - 1) / perPeriod;
+    const qint64 steps = periods * rule.frequency();
+    // Nothing that has a date goes on for so long.
+    if (steps > std::numeric_limits<qint32>::max()) {
+        return {};
+    }
+    const QDateTime start = rule.startDt();
+    if (const int seconds = secondsOfPeriod(rule.recurrenceType())) {
+        return start.addSecs(steps * seconds);
+    }
+    const QDate date = addPeriods(start.date(), rule.recurrenceType(), steps);
+    return date.isValid() ? atWallClock(date, start.time(), start.timeZone()) : QDateTime();
+}
+
 TimeSpan lifeOfSeries(const KCalCore::Incidence &series, const TimeSpan &firstSpan,
                       const KCalCore::Incidence::List &exceptions, const ZoneClock &clock)
 {
@@ -228,8 +226,11 @@ TimeSpan lifeOfSeries(const KCalCore::Incidence &series, const TimeSpan &firstSp
     const bool wallBound = isWallBound(series);
     const Length length = Length::of(series);
     const QDateTime first = recurrence.startDateTime();
+    // The rules give starts, and a to-do occurs when it is due.
+    const qint64 lead = first.isValid() ? wallSeconds(anchor(series)) - wallSeconds(first) : 0;
     const auto include = [&](const QDateTime &dateTime) {
-        const QDateTime start = inOwnZone(inSpecOf(first, dateTime), wallBound, clock);
+        const QDateTime ruled = inOwnZone(inSpecOf(first, dateTime), wallBound, clock);
+        const QDateTime start = lead == 0 ? ruled : shiftedByWall(ruled, lead);
         life.start = qMin(life.start, momentOf(start));
         life.end = qMax(life.end, length.endAfter(start, clock));
     };

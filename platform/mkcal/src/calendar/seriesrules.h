@@ -12,6 +12,10 @@
 
 namespace mKCal
 {
+/// A moment that the last occurrence of a rule with a count does not pass, later than that by less
+/// than one step of the rule; null when only counting them would tell, which can take milliseconds.
+QDateTime boundOfCount(const KCalCore::RecurrenceRule &rule);
+
 /// From the first start of a series to the end of its last occurrence (DateIndex::endless for
 /// none), as its rules and RDATEs say; a THISANDFUTURE exception among @p exceptions moves it. The
 /// end may be later than that of the last occurrence by less than one step of a rule: counting a

@@ -35,7 +35,7 @@ constexpr NotedProperty notedProperties[] = {
     {"UID", &CalendarComponent::uid},           {"RECURRENCE-ID", &CalendarComponent::recurrenceId},
     {"SEQUENCE", &CalendarComponent::sequence}, {"DTSTAMP", &CalendarComponent::stamp},
     {"CREATED", &CalendarComponent::created},   {"LAST-MODIFIED", &CalendarComponent::lastModified},
-    {"TZID", &CalendarComponent::timeZoneId},
+    {"TZID", &CalendarComponent::timeZoneId},   {"RRULE", &CalendarComponent::rule},
 };
 
 // Servers that make their calendars on request stamp each answer anew.

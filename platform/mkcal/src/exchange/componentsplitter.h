@@ -36,6 +36,7 @@ struct CalendarComponent {
     QByteArray created;
     QByteArray lastModified;
     QByteArray timeZoneId;
+    QByteArray rule; ///< the first one
 
     /// A VEVENT, VTODO or VJOURNAL.
     bool isIncidence() const;

@@ -52,8 +52,12 @@ QDateTime asMeant(const QDateTime &time)
 
 bool isAsMeant(const QDateTime &time)
 {
+    if (time.timeSpec() != Qt::TimeZone) {
+        return true;
+    }
+    // The offset tells the passes of an hour apart without a look into the zone.
     const QDateTime meant = asMeant(time);
-    return meant.timeSpec() == time.timeSpec() && meant == time;
+    return meant.timeSpec() == Qt::TimeZone && meant.offsetFromUtc() == time.offsetFromUtc();
 }
 
 QList<QDateTime> asMeant(QList<QDateTime> times)

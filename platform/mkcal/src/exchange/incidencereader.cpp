@@ -126,7 +126,7 @@ QStringList lossesOf(const CalendarComponent &component, const Incidence::Ptr &i
                           .arg(quoted(zone));
         }
     }
-    if (component.text.contains("RSCALE=") && !component.text.contains("RSCALE=GREGORIAN")) {
+    if (component.rule.contains("RSCALE=") && !component.rule.contains("RSCALE=GREGORIAN")) {
         losses += QStringLiteral("it repeats by the Gregorian calendar, not by its own");
     }
     return losses;
@@ -135,12 +135,11 @@ QStringList lossesOf(const CalendarComponent &component, const Incidence::Ptr &i
 /// @param incidence in our convention.
 QStringList lostRule(const CalendarComponent &component, const Incidence::Ptr &incidence)
 {
-    if (!component.text.contains("RRULE") || !incidence->recurrence()->rRules().isEmpty()) {
+    if (component.rule.isEmpty() || !incidence->recurrence()->rRules().isEmpty()) {
         return QStringList();
     }
-    const QByteArray rule = ContentLine::find(component.text, "RRULE");
     return {QStringLiteral("it does not repeat, its rule cannot be followed: %1")
-                .arg(quoted(ContentLine::value(rule)))};
+                .arg(quoted(component.rule))};
 }
 } // namespace
 

@@ -3,6 +3,7 @@
 
 #include "sqlite/componentkeys.h"
 
+#include "calendar/seriesrules.h"
 #include "sqlite/datetimecolumns.h"
 
 #include <KCalendarCore/Event>
@@ -17,7 +18,7 @@ namespace
 {
 constexpr qint64 daySeconds = 86400;
 
-/// A longer count is not unrolled to learn its end: that costs more than loading the series.
+/// A longer count is not counted out to learn its end: that costs more than loading the series.
 constexpr int longestCountedUnroll = 400;
 
 struct Bounds {
@@ -68,20 +69,33 @@ qint64 firstStart(const Recurrence &recurrence, qint64 start, bool byWallClock)
     return start;
 }
 
+/// The last start of a rule or a moment after it; null when none is known.
+QDateTime lastStart(const RecurrenceRule &rule)
+{
+    if (rule.duration() <= 0)
+        return rule.duration() == 0 ? rule.endDt() : QDateTime();
+    const QDateTime bound = boundOfCount(rule);
+    return bound.isValid() || rule.duration() > longestCountedUnroll ? bound : rule.endDt();
+}
+
 qint64 lastEnd(const Recurrence &recurrence, qint64 length, bool byWallClock)
 {
+    qint64 last = DateTimeColumns::seconds(recurrence.startDateTime(), byWallClock);
     const auto rules = recurrence.rRules();
     for (const RecurrenceRule *rule : rules) {
-        if (rule->duration() < 0 || rule->duration() > longestCountedUnroll)
+        const QDateTime start = lastStart(*rule);
+        if (!start.isValid())
             return ComponentKeys::endless;
+        last = qMax(last, DateTimeColumns::seconds(start, byWallClock));
     }
-    const QDateTime last = recurrence.endDateTime();
-    if (!last.isValid())
-        return ComponentKeys::endless;
+    const auto dateTimes = recurrence.rDateTimes();
+    if (!dateTimes.isEmpty())
+        last = qMax(last, DateTimeColumns::seconds(dateTimes.last(), byWallClock));
+    const auto dates = recurrence.rDates();
+    if (!dates.isEmpty())
+        last = qMax(last, dates.last().startOfDay(Qt::UTC).toSecsSinceEpoch() + daySeconds);
     // The last start may be told in another zone than the series': a day covers the difference.
-    return qMax(DateTimeColumns::seconds(last, byWallClock) + length,
-                lastPeriodEnd(recurrence, byWallClock))
-        + daySeconds;
+    return qMax(last + length, lastPeriodEnd(recurrence, byWallClock)) + daySeconds;
 }
 
 qint64 completedKey(const Incidence &incidence)

@@ -67,6 +67,7 @@ public:
     ChildWriter children;
     Statement find;
     Statement notebookOf;
+    Statement tombstone;
     Statement insert;
     Statement updateContent;
     Statement readKeys;
@@ -81,6 +82,8 @@ ComponentWriterPrivate::ComponentWriterPrivate(Connection &theConnection)
            "SELECT id, notebook, change, flags FROM Components"
            " WHERE uid = ? AND recId = ? AND state = 0"),
       notebookOf(theConnection, "SELECT notebook FROM Components WHERE uid = ? AND state = 0"),
+      tombstone(theConnection,
+                "SELECT 1 FROM Components WHERE uid = ? AND recId = ? AND state = 1 LIMIT 1"),
       insert(theConnection, insertText()),
       updateContent(theConnection, updateText(firstOfContent, firstKey)),
       readKeys(theConnection,
@@ -331,6 +334,13 @@ bool ComponentWriter::moveToNotebook(const QString &uid, const QString &notebook
 
 bool ComponentWriter::removeTombstones(const QString &uid, const QString &recId)
 {
+    // There is hardly ever one, and looking costs a quarter of a DELETE that finds nothing.
+    d->tombstone.bind(1, uid);
+    d->tombstone.bind(2, recId.isNull() ? QStringLiteral("") : recId);
+    const bool isThere = d->tombstone.next();
+    d->tombstone.reset();
+    if (!isThere)
+        return !d->tombstone.failed();
     Statement &statement = d->connection.statement(
         QByteArrayLiteral("DELETE FROM Components WHERE uid = ? AND recId = ? AND state = 1"));
     statement.bind(1, uid);
