@@ -1,0 +1,81 @@
+// SPDX-FileCopyrightText: 2026 The daskel authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "notetimes.h"
+
+#include "notedetails.h"
+
+#include <daskel/daskellocale.h>
+#include <daskel/notewidgetmodel.h>
+
+namespace
+{
+QString dayAndMonth(const QDate &day)
+{
+    return DaskelLocale::formatDateTime(day.startOfDay(), "%d %b");
+}
+
+QString upTo(const QString &end)
+{
+    return QStringLiteral("– ") + end;
+}
+
+/// The last day on which something that ends at \a end is still there.
+QDate lastDay(const QDateTime &end)
+{
+    return end == end.date().startOfDay() ? end.date().addDays(-1) : end.date();
+}
+
+/// Of a later day of what began before: until when.
+NoteTimes continuedTimes(const NoteWidgetModel &model, const QDateTime &end)
+{
+    const bool endsToday = lastDay(end) == model.startTime().date();
+    const bool hasTime = endsToday && !model.allDay() && end.date() == lastDay(end);
+    return {qtTrId("qtn_caln_until"),
+            hasTime ? DaskelLocale::formatShortTime(end) : dayAndMonth(lastDay(end))};
+}
+
+NoteTimes eventTimes(const NoteWidgetModel &model, const NoteDetails &details)
+{
+    const QDateTime start = model.startTime();
+    const QDateTime end = details.occurrenceEnd;
+    if (!start.isValid())
+        return {};
+    if (details.occurrenceStart.isValid() && details.occurrenceStart.date() < start.date())
+        return continuedTimes(model, end);
+    const QString first =
+        model.allDay() ? qtTrId("qtn_caln_all_day") : DaskelLocale::formatShortTime(start);
+    if (!end.isValid() || end <= start)
+        return {first, {}};
+    // A night needs no date: what ends at 02:00 ends on the next morning.
+    if (lastDay(end) > start.date() && (model.allDay() || end >= start.addDays(1)))
+        return {first, upTo(dayAndMonth(lastDay(end)))};
+    return {first, model.allDay() ? QString() : upTo(DaskelLocale::formatShortTime(end))};
+}
+
+NoteTimes todoTimes(const NoteWidgetModel &model, const QDateTime &now)
+{
+    if (!model.dueDate().isValid())
+        return {};
+    // A date without a time is that date everywhere.
+    const QDateTime due = model.allDay() ? model.dueDate() : model.dueDate().toLocalTime();
+    const bool isToday = due.date() == now.date();
+    const bool isPast = model.allDay() ? due.date() < now.date() : due < now;
+    return {isToday ? qtTrId("qtn_comm_today") : dayAndMonth(due.date()),
+            model.allDay() ? QString() : DaskelLocale::formatShortTime(due),
+            isPast && !model.completed()};
+}
+} // namespace
+
+NoteTimes noteTimes(const NoteWidgetModel &model, const NoteDetails &details, const QDateTime &now)
+{
+    switch (model.type()) {
+    case NoteWidgetModel::EventNote:
+        return eventTimes(model, details);
+    case NoteWidgetModel::TodoNote:
+        return todoTimes(model, now);
+    case NoteWidgetModel::JournalNote:
+        break;
+    }
+    return {model.startTime().isValid() ? dayAndMonth(model.startTime().date()) : QString(), {}};
+}
