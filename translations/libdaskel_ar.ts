@@ -1,0 +1,80 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<!--
+SPDX-FileCopyrightText: 2026 The daskel authors
+SPDX-License-Identifier: LGPL-2.1-or-later
+-->
+<TS version="2.1" language="ar" sourcelanguage="en">
+<context>
+    <message id="qtn_caln_personal_caln">
+        <source>Personal</source>
+        <extracomment>Name of the notebook that every calendar starts with.</extracomment>
+        <translation>شخصي</translation>
+    </message>
+    <message id="qtn_caln_notes_caln">
+        <source>Notes</source>
+        <extracomment>Name of the notebook that holds journals only.</extracomment>
+        <translation>ملاحظات</translation>
+    </message>
+    <message id="qtn_caln_no_title">
+        <source>No title</source>
+        <extracomment>In place of the title of a note that has none.</extracomment>
+        <translation>بدون عنوان</translation>
+    </message>
+    <message id="qtn_caln_no_events_today">
+        <source>Nothing today</source>
+        <extracomment>In place of the notes of a day that has none.</extracomment>
+        <translation>لا شيء اليوم</translation>
+    </message>
+    <message id="qtn_caln_all_day">
+        <source>All day</source>
+        <extracomment>In place of a time of day. Little room.</extracomment>
+        <translation>طوال اليوم</translation>
+    </message>
+    <message id="qtn_caln_until">
+        <source>until</source>
+        <extracomment>Above a date or a time of day, on the later days of something long. Little room.</extracomment>
+        <translation>حتى</translation>
+    </message>
+    <message id="qtn_comm_today">
+        <source>Today</source>
+        <extracomment>In place of a date.</extracomment>
+        <translation>اليوم</translation>
+    </message>
+    <message id="qtn_caln_completed">
+        <source>Done</source>
+        <extracomment>Said of a to-do.</extracomment>
+        <translation>تمّت</translation>
+    </message>
+    <message id="qtn_caln_overdue">
+        <source>Overdue</source>
+        <extracomment>Said of a to-do.</extracomment>
+        <translation>متأخرة</translation>
+    </message>
+    <message id="qtn_caln_cancelled">
+        <source>Cancelled</source>
+        <extracomment>Said of an event.</extracomment>
+        <translation>أُلغي</translation>
+    </message>
+    <message id="qtn_caln_mark_compl">
+        <source>Mark as done</source>
+        <extracomment>Menu of a to-do.</extracomment>
+        <translation>وضع علامة «تمّت»</translation>
+    </message>
+    <message id="qtn_caln_mark_uncompl">
+        <source>Mark as not done</source>
+        <extracomment>Menu of a to-do that is done.</extracomment>
+        <translation>إزالة علامة «تمّت»</translation>
+    </message>
+    <message id="qtn_comm_edit">
+        <source>Edit</source>
+        <extracomment>Menu of a note.</extracomment>
+        <translation>تعديل</translation>
+    </message>
+    <message id="qtn_comm_command_delete">
+        <source>Delete</source>
+        <extracomment>Menu of a note, and the button that does it.</extracomment>
+        <translation>حذف</translation>
+    </message>
+</context>
+</TS>
