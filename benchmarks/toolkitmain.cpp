@@ -5,8 +5,8 @@
 
 #include <touchcore/mapplication.h>
 
-/// The figures of the toolkit stand in a program of their own: the calendar's are taken without the
-/// widgets' libraries.
+/// The figures of what is seen stand in a program of their own: the calendar's are taken without
+/// the widgets' libraries.
 int main(int argc, char *argv[])
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -15,5 +15,6 @@ int main(int argc, char *argv[])
     require(!words.isEmpty(), QStringLiteral("usage: toolkit_bench <folder> [filter...]"));
     const Bench bench(words.first(), words.mid(1));
     measureWidgets(bench);
+    measureServices(bench);
     return 0;
 }

@@ -16,26 +16,27 @@
 
 namespace
 {
+/// Made once: a setting is read each time anew.
 namespace Key
 {
-constexpr char workingDaysMask[] = "working_days_mask";
-constexpr char firstDayOfWeek[] = "first_day_of_week";
-constexpr char defaultReminder[] = "default_reminder";
-constexpr char hasDefaultReminder[] = "has_default_reminder";
-constexpr char hideCompletedTodos[] = "hide_completed_todos";
-constexpr char timeZoneSupport[] = "timezone_support";
-constexpr char lastActiveTab[] = "last_active_tab";
-constexpr char weekViewDaysLandscape[] = "week_view_days_l";
-constexpr char weekViewDaysPortrait[] = "week_view_days_p";
-constexpr char firstRun[] = "first_run";
-constexpr char notesContent[] = "notes_content";
+const QString workingDaysMask = QStringLiteral("working_days_mask");
+const QString firstDayOfWeek = QStringLiteral("first_day_of_week");
+const QString defaultReminder = QStringLiteral("default_reminder");
+const QString hasDefaultReminder = QStringLiteral("has_default_reminder");
+const QString hideCompletedTodos = QStringLiteral("hide_completed_todos");
+const QString timeZoneSupport = QStringLiteral("timezone_support");
+const QString lastActiveTab = QStringLiteral("last_active_tab");
+const QString weekViewDaysLandscape = QStringLiteral("week_view_days_l");
+const QString weekViewDaysPortrait = QStringLiteral("week_view_days_p");
+const QString firstRun = QStringLiteral("first_run");
+const QString notesContent = QStringLiteral("notes_content");
 } // namespace Key
 
 constexpr int notChosen = -1;
 constexpr int mondayToFriday = 31;
 
 struct WeekView {
-    const char *key;
+    QString key;
     int defaultDays;
 };
 
@@ -78,14 +79,14 @@ CalendarConfPrivate::CalendarConfPrivate(CalendarConf *conf)
     QObject::connect(timer.get(), &QTimer::timeout, q, &CalendarConf::syncSettingsCallback);
 }
 
-QVariant CalendarConfPrivate::value(const char *key, const QVariant &defaultValue) const
+QVariant CalendarConfPrivate::value(const QString &key, const QVariant &defaultValue) const
 {
-    return settings->value(QLatin1String(key), defaultValue);
+    return settings->value(key, defaultValue);
 }
 
-void CalendarConfPrivate::setValue(const char *key, const QVariant &value)
+void CalendarConfPrivate::setValue(const QString &key, const QVariant &value)
 {
-    settings->setValue(QLatin1String(key), value);
+    settings->setValue(key, value);
     if (!timer->isActive())
         timer->start();
 }
@@ -93,7 +94,7 @@ void CalendarConfPrivate::setValue(const char *key, const QVariant &value)
 /// The default of the reminder's minutes lives in its getter alone.
 void CalendarConfPrivate::writeDefaults()
 {
-    const std::pair<const char *, QVariant> defaults[] = {
+    const std::pair<QString, QVariant> defaults[] = {
         {Key::timeZoneSupport, false},
         {Key::firstDayOfWeek, notChosen},
         {Key::workingDaysMask, notChosen},
@@ -106,7 +107,7 @@ void CalendarConfPrivate::writeDefaults()
         {Key::notesContent, false},
     };
     for (const auto &[key, value] : defaults)
-        settings->setValue(QLatin1String(key), value);
+        settings->setValue(key, value);
     settings->sync();
 }
 

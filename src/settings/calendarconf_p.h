@@ -17,9 +17,9 @@ class CalendarConfPrivate
 public:
     explicit CalendarConfPrivate(CalendarConf *conf);
 
-    QVariant value(const char *key, const QVariant &defaultValue) const;
+    QVariant value(const QString &key, const QVariant &defaultValue) const;
     /// Stores the value and has the file written when the event loop is next idle.
-    void setValue(const char *key, const QVariant &value);
+    void setValue(const QString &key, const QVariant &value);
     void writeDefaults();
     /// A file that is replaced is another file to the watcher, and one that is missing no file at
     /// all: then the folder is watched until it is back.
