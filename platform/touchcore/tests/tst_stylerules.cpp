@@ -225,7 +225,8 @@ void TestStyleRules::fontsHaveFamilies()
 {
     Rules theme;
     QVERIFY(theme.read(R"({"fontFamilies": ["Noto Sans", "sans-serif"],
-        "fonts": {"title": "20px medium", "note": "14px 'Noto Serif' italic bold"}})"));
+        "fonts": {"title": "20px medium", "note": "14px 'Noto Serif' italic bold",
+        "gone": "16px strikeout"}})"));
     const QFont title = theme.m_values.font(QStringLiteral("title")).value_or(QFont());
     QCOMPARE(title.pixelSize(), 20);
     QCOMPARE(title.weight(), int(QFont::Medium));
@@ -235,6 +236,8 @@ void TestStyleRules::fontsHaveFamilies()
     QCOMPARE(note.families().first(), QStringLiteral("Noto Serif"));
     QVERIFY(note.italic());
     QCOMPARE(note.weight(), int(QFont::Bold));
+    QVERIFY(!note.strikeOut());
+    QVERIFY(theme.m_values.font(QStringLiteral("gone")).value_or(QFont()).strikeOut());
     QVERIFY(!theme.m_values.font(QStringLiteral("20px")));
 }
 

@@ -72,6 +72,10 @@ bool applyWord(const QString &word, QFont *font)
         font->setItalic(true);
         return true;
     }
+    if (word == QLatin1String("strikeout")) {
+        font->setStrikeOut(true);
+        return true;
+    }
     for (const WeightWord &known : weightWords) {
         if (word == QLatin1String(known.word)) {
             font->setWeight(known.weight);
