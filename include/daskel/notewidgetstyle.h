@@ -34,7 +34,7 @@ class NoteWidgetStyle : public MWidgetStyle
     M_STYLE_ATTRIBUTE(MScalableImage, stripeMaskImageAlt, setStripeMaskImageAlt)
     /// Of each mark.
     M_STYLE_ATTRIBUTE(QSizeF, alarmImageSize, setAlarmImageSize, 16, 16)
-    M_STYLE_ATTRIBUTE(int, alarmImageMarginTop, setAlarmImageMarginTop, 12)
+    M_STYLE_ATTRIBUTE(int, alarmImageMarginTop, setAlarmImageMarginTop, 18)
     M_STYLE_ATTRIBUTE(int, alarmImageMarginRight, setAlarmImageMarginRight, 16)
     /// Whether the frame of the style is drawn at all.
     M_STYLE_ATTRIBUTE(bool, backgroundDraw, setBackgroundDraw, true)
@@ -58,9 +58,13 @@ class NoteWidgetListItemStyle : public NoteWidgetStyle
     M_STYLE_ATTRIBUTE(QString, tentativeTitleStyleName, setTentativeTitleStyleName)
     /// The place.
     M_STYLE_ATTRIBUTE(QString, subtitleStyleName, setSubtitleStyleName)
-    /// The times.
+    /// The first line of the times.
     M_STYLE_ATTRIBUTE(QString, subTextStyleName, setSubTextStyleName)
+    /// The second line of the times: the end.
+    M_STYLE_ATTRIBUTE(QString, endStyleName, setEndStyleName)
+    /// Both lines of the times of a to-do that is overdue.
     M_STYLE_ATTRIBUTE(QString, overdueStyleName, setOverdueStyleName)
+    /// At least; a clock of 12 hours takes more.
     M_STYLE_ATTRIBUTE(int, timeColumnWidth, setTimeColumnWidth, 64)
 };
 

@@ -15,11 +15,6 @@ QString dayAndMonth(const QDate &day)
     return DaskelLocale::formatDateTime(day.startOfDay(), "%d %b");
 }
 
-QString upTo(const QString &end)
-{
-    return QStringLiteral("– ") + end;
-}
-
 /// The last day on which something that ends at \a end is still there.
 QDate lastDay(const QDateTime &end)
 {
@@ -49,8 +44,8 @@ NoteTimes eventTimes(const NoteWidgetModel &model, const NoteDetails &details)
         return {first, {}};
     // A night needs no date: what ends at 02:00 ends on the next morning.
     if (lastDay(end) > start.date() && (model.allDay() || end >= start.addDays(1)))
-        return {first, upTo(dayAndMonth(lastDay(end)))};
-    return {first, model.allDay() ? QString() : upTo(DaskelLocale::formatShortTime(end))};
+        return {first, endText(dayAndMonth(lastDay(end)))};
+    return {first, model.allDay() ? QString() : endText(DaskelLocale::formatShortTime(end))};
 }
 
 NoteTimes todoTimes(const NoteWidgetModel &model, const QDateTime &now)
@@ -66,6 +61,11 @@ NoteTimes todoTimes(const NoteWidgetModel &model, const QDateTime &now)
             isPast && !model.completed()};
 }
 } // namespace
+
+QString endText(const QString &end)
+{
+    return QStringLiteral("– ") + end;
+}
 
 NoteTimes noteTimes(const NoteWidgetModel &model, const NoteDetails &details, const QDateTime &now)
 {

@@ -19,5 +19,7 @@ struct NoteTimes {
 
 /// \a now: for what is due today and what is overdue; local time.
 NoteTimes noteTimes(const NoteWidgetModel &model, const NoteDetails &details, const QDateTime &now);
+/// How an end stands below a start.
+QString endText(const QString &end);
 
 #endif

@@ -9,7 +9,9 @@
 #include <touchcore/mstylablewidget.h>
 #include <touchcore/mviewfactory.h>
 
+#include <QFontMetricsF>
 #include <QGraphicsLinearLayout>
+#include <QtMath>
 
 namespace
 {
@@ -61,18 +63,36 @@ class NoteWidgetListItemViewPrivate
 {
 public:
     explicit NoteWidgetListItemViewPrivate(NoteWidget *note)
-        : times(note, 2), titles(note, 2), row(newLayout(Qt::Horizontal, note))
+        : lines(new MStylableWidget(note)), times(lines, 2), titles(lines, 2),
+          row(newLayout(Qt::Horizontal, note)), columns(newLayout(Qt::Horizontal, lines))
     {
-        row->addItem(times.panel);
-        row->addItem(titles.panel);
-        row->setAlignment(times.panel, Qt::AlignVCenter);
-        row->setAlignment(titles.panel, Qt::AlignVCenter);
-        row->setStretchFactor(titles.panel, 1);
+        row->addItem(lines);
+        row->setAlignment(lines, Qt::AlignVCenter);
+        columns->addItem(titles.panel);
+        columns->setAlignment(titles.panel, Qt::AlignTop);
+        columns->setStretchFactor(titles.panel, 1);
+        times.panel->hide();
     }
 
+    void showTimes(bool isShown)
+    {
+        if (isShown == (times.panel->parentLayoutItem() == columns))
+            return;
+        if (isShown) {
+            columns->insertItem(0, times.panel);
+            columns->setAlignment(times.panel, Qt::AlignTop);
+        } else {
+            columns->removeItem(times.panel);
+        }
+        times.panel->setVisible(isShown);
+    }
+
+    /// Both columns begin with the same line, and the higher one stands in the middle of the row.
+    MStylableWidget *lines;
     TextLines times;
     TextLines titles;
     QGraphicsLinearLayout *row;
+    QGraphicsLinearLayout *columns;
 };
 
 M_REGISTER_VIEW(NoteWidgetListItemView, NoteWidget)
@@ -85,8 +105,7 @@ NoteWidgetListItemView::NoteWidgetListItemView(NoteWidget *controller)
 NoteWidgetListItemView::~NoteWidgetListItemView()
 {
     controller()->setLayout(nullptr);
-    delete d->times.panel;
-    delete d->titles.panel;
+    delete d->lines;
 }
 
 void NoteWidgetListItemView::updateData(const QList<const char *> &modifications)
@@ -98,9 +117,6 @@ void NoteWidgetListItemView::updateData(const QList<const char *> &modifications
 void NoteWidgetListItemView::applyStyle()
 {
     NoteWidgetView::applyStyle();
-    controller()->setMinimumHeight(style()->minimumSize().height());
-    d->times.panel->setMinimumWidth(style()->timeColumnWidth());
-    d->times.panel->setMaximumWidth(style()->timeColumnWidth());
     showTexts();
 }
 
@@ -109,17 +125,34 @@ void NoteWidgetListItemView::drawTexts(QPainter *) const { }
 void NoteWidgetListItemView::showTexts()
 {
     const NoteWidgetModel *model = note()->model();
-    const QString timeStyle =
-        times().isOverdue ? style()->overdueStyleName() : style()->subTextStyleName();
-    d->times.show(0, times().first, timeStyle);
-    d->times.show(1, model->squeezed() ? QString() : times().second, timeStyle);
+    const bool isSqueezed = model->squeezed();
+    const bool isOverdue = times().isOverdue;
+    d->times.show(0, times().first,
+                  isOverdue ? style()->overdueStyleName() : style()->subTextStyleName());
+    d->times.show(1, times().second,
+                  isOverdue ? style()->overdueStyleName() : style()->endStyleName());
+    d->showTimes(!isSqueezed);
+    d->times.panel->setMinimumWidth(timeColumnWidth());
+    d->times.panel->setMaximumWidth(timeColumnWidth());
     d->titles.show(0, model->title(), titleStyle());
-    d->titles.show(1, model->squeezed() ? QString() : subtitle(), style()->subtitleStyleName());
+    d->titles.show(1, isSqueezed ? QString() : subtitle(), style()->subtitleStyleName());
     d->titles.panel->setStyleName(model->hasAlarm()
                                       ? QStringLiteral("NoteListItemTitleContainerWithAlarm")
                                       : QStringLiteral("NoteListItemTitleContainerWithoutAlarm"));
     d->row->setContentsMargins(stripeRoom(), style()->paddingTop(), marksRoom(),
                                style()->paddingBottom());
+    // Squeezed, it is as high as its title.
+    controller()->setMinimumHeight(isSqueezed ? -1 : style()->minimumSize().height());
+}
+
+qreal NoteWidgetListItemView::timeColumnWidth() const
+{
+    // The same for all rows, whatever they show.
+    static const QDateTime lateHour(QDate(2000, 1, 1), QTime(22, 0));
+    const QFontMetricsF metrics(style()->timeFont());
+    const qreal end = metrics.horizontalAdvance(endText(DaskelLocale::formatShortTime(lateHour)));
+    const qreal allDay = metrics.horizontalAdvance(qtTrId("qtn_caln_all_day"));
+    return qCeil(qMax<qreal>(style()->timeColumnWidth(), qMax(end, allDay)));
 }
 
 QString NoteWidgetListItemView::titleStyle() const

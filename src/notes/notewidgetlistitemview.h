@@ -28,6 +28,7 @@ protected:
 
 private:
     void showTexts();
+    qreal timeColumnWidth() const;
     QString titleStyle() const;
     /// What stands below the title: the place, and that it is cancelled.
     QString subtitle() const;
