@@ -52,18 +52,25 @@ class NoteWidgetStyle : public MWidgetStyle
 class NoteWidgetListItemStyle : public NoteWidgetStyle
 {
     Q_OBJECT
-    M_STYLE_ATTRIBUTE(QString, titleStyleName, setTitleStyleName)
+    // The styles of its labels.
+    M_STYLE_ATTRIBUTE(QString, titleStyleName, setTitleStyleName,
+                      QStringLiteral("NoteListItemTitle"))
     /// The title of a to-do that is done, and of a cancelled event.
-    M_STYLE_ATTRIBUTE(QString, doneTitleStyleName, setDoneTitleStyleName)
-    M_STYLE_ATTRIBUTE(QString, tentativeTitleStyleName, setTentativeTitleStyleName)
+    M_STYLE_ATTRIBUTE(QString, doneTitleStyleName, setDoneTitleStyleName,
+                      QStringLiteral("NoteListItemTitleDone"))
+    M_STYLE_ATTRIBUTE(QString, tentativeTitleStyleName, setTentativeTitleStyleName,
+                      QStringLiteral("NoteListItemTitleTentative"))
     /// The place.
-    M_STYLE_ATTRIBUTE(QString, subtitleStyleName, setSubtitleStyleName)
+    M_STYLE_ATTRIBUTE(QString, subtitleStyleName, setSubtitleStyleName,
+                      QStringLiteral("NoteListItemPlace"))
     /// The first line of the times.
-    M_STYLE_ATTRIBUTE(QString, subTextStyleName, setSubTextStyleName)
+    M_STYLE_ATTRIBUTE(QString, subTextStyleName, setSubTextStyleName,
+                      QStringLiteral("NoteListItemTime"))
     /// The second line of the times: the end.
-    M_STYLE_ATTRIBUTE(QString, endStyleName, setEndStyleName)
+    M_STYLE_ATTRIBUTE(QString, endStyleName, setEndStyleName, QStringLiteral("NoteListItemEnd"))
     /// Both lines of the times of a to-do that is overdue.
-    M_STYLE_ATTRIBUTE(QString, overdueStyleName, setOverdueStyleName)
+    M_STYLE_ATTRIBUTE(QString, overdueStyleName, setOverdueStyleName,
+                      QStringLiteral("NoteListItemTimeOverdue"))
     /// At least; a clock of 12 hours takes more.
     M_STYLE_ATTRIBUTE(int, timeColumnWidth, setTimeColumnWidth, 64)
 };

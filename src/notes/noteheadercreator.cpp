@@ -6,6 +6,7 @@
 #include <daskel/notewidgetitemmodel.h>
 #include <kcalcompat/clock.h>
 #include <touchcore/mlabel.h>
+#include <touchcore/mtheme.h>
 #include <touchcore/mwidgetrecycler.h>
 
 #include <QGraphicsLinearLayout>
@@ -29,6 +30,7 @@ HeaderStyle styleOf(bool isToday)
 NoteListHeaderWidget::NoteListHeaderWidget(QGraphicsItem *parent)
     : MStylableWidget(parent), m_label(new MLabel(this))
 {
+    MTheme::instance()->registerStylableType("NoteListHeaderWidget", QStringLiteral("libdaskel"));
     auto *layout = new QGraphicsLinearLayout(Qt::Horizontal, this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addItem(m_label);

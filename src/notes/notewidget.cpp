@@ -9,6 +9,7 @@
 #include <daskel/notebookmanager.h>
 #include <daskel/notelistwidget.h>
 #include <kcalcompat/clock.h>
+#include <touchcore/mtheme.h>
 
 #include <KCalendarCore/Todo>
 
@@ -109,6 +110,7 @@ NoteWidget::NoteWidget(const QSharedPointer<KCalCore::Incidence> &incidence, Not
     : MWidgetController(new NoteWidgetModel, nullptr),
       d(std::make_unique<NoteWidgetPrivate>(this, list))
 {
+    MTheme::instance()->registerStylableType("NoteWidget", QStringLiteral("libdaskel"));
     setFocusPolicy(Qt::StrongFocus);
     if (incidence)
         setNote(incidence);

@@ -30,6 +30,7 @@ public:
     TextLines(QGraphicsItem *parent, int count)
         : panel(new MStylableWidget(parent)), m_layout(newLayout(Qt::Vertical, panel))
     {
+        panel->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
         for (int i = 0; i < count; ++i) {
             m_labels.append(new MLabel(panel));
             m_labels.last()->hide();
@@ -64,10 +65,12 @@ class NoteWidgetListItemViewPrivate
 public:
     explicit NoteWidgetListItemViewPrivate(NoteWidget *note)
         : lines(new MStylableWidget(note)), times(lines, 2), titles(lines, 2),
-          row(newLayout(Qt::Horizontal, note)), columns(newLayout(Qt::Horizontal, lines))
+          frame(newLayout(Qt::Vertical, note)), columns(newLayout(Qt::Horizontal, lines))
     {
-        row->addItem(lines);
-        row->setAlignment(lines, Qt::AlignVCenter);
+        lines->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+        frame->addStretch();
+        frame->addItem(lines);
+        frame->addStretch();
         columns->addItem(titles.panel);
         columns->setAlignment(titles.panel, Qt::AlignTop);
         columns->setStretchFactor(titles.panel, 1);
@@ -91,7 +94,7 @@ public:
     MStylableWidget *lines;
     TextLines times;
     TextLines titles;
-    QGraphicsLinearLayout *row;
+    QGraphicsLinearLayout *frame;
     QGraphicsLinearLayout *columns;
 };
 
@@ -139,7 +142,7 @@ void NoteWidgetListItemView::showTexts()
     d->titles.panel->setStyleName(model->hasAlarm()
                                       ? QStringLiteral("NoteListItemTitleContainerWithAlarm")
                                       : QStringLiteral("NoteListItemTitleContainerWithoutAlarm"));
-    d->row->setContentsMargins(stripeRoom(), style()->paddingTop(), marksRoom(),
+    d->frame->setContentsMargins(stripeRoom(), style()->paddingTop(), marksRoom(),
                                style()->paddingBottom());
     // Squeezed, it is as high as its title.
     controller()->setMinimumHeight(isSqueezed ? -1 : style()->minimumSize().height());
