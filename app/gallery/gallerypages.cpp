@@ -44,6 +44,8 @@ const QVector<GalleryPage> &galleryPages()
 {
     static const QVector<GalleryPage> pages{
         {"header", "Page header", makeHeaderPage, nullptr},
+        {"events", "Events", makeEventsPage, nullptr},
+        {"todos", "To-dos", makeTodosPage, nullptr},
         {"states", "States", makeStatesPage, nullptr},
         {"question", "Question", makeHeaderPage, openPlainQuestion},
         {"titled-question", "Question with a title", makeHeaderPage, openTitledQuestion},

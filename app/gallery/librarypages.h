@@ -6,7 +6,9 @@
 
 class QGraphicsWidget;
 
+QGraphicsWidget *makeEventsPage();
 QGraphicsWidget *makeHeaderPage();
 QGraphicsWidget *makeStatesPage();
+QGraphicsWidget *makeTodosPage();
 
 #endif
