@@ -41,6 +41,9 @@ private Q_SLOTS:
     void hasHeadersOfItsOwn();
     void makesNothingWhileHidden();
     void standsInALayout();
+    void goesWithItsViewport_data();
+    void goesWithItsViewport();
+    void livesOnWithoutItsViewport();
     void livesWithoutAModel();
     void showsTheSelection();
     void recyclesByClass();
@@ -346,6 +349,47 @@ void TestMList::standsInALayout()
     // More room: the layout keeps the list's geometry, and yet more rows are seen.
     screen.viewport->resize(360, 550);
     QCOMPARE(screen.list->visibleItems().size(), 10);
+}
+
+void TestMList::goesWithItsViewport_data()
+{
+    QTest::addColumn<bool>("isInAColumn");
+    QTest::newRow("as its widget") << false;
+    QTest::newRow("in a column of its widget") << true;
+}
+
+/// On the way out it is a list of all its height that no viewport narrows.
+void TestMList::goesWithItsViewport()
+{
+    QFETCH(bool, isInAColumn);
+    ListScreen screen;
+    screen.fill(500, 19);
+    if (isInAColumn) {
+        auto *column = new QGraphicsWidget;
+        auto *layout = new QGraphicsLinearLayout(Qt::Vertical, column);
+        auto *list = new MList;
+        list->setCellCreator(new RowCreator);
+        list->setHeaderCreator(new RowCreator);
+        list->setShowGroups(true);
+        list->setItemModel(&screen.model);
+        layout->addItem(list);
+        screen.viewport->setWidget(column);
+        screen.layOut();
+    }
+    Row::made = 0;
+    delete screen.viewport;
+    QCOMPARE(Row::made, 0);
+}
+
+void TestMList::livesOnWithoutItsViewport()
+{
+    ListScreen screen;
+    screen.fill(2, 9);
+    screen.list->setParentItem(nullptr);
+    screen.list->setGeometry(QRectF(0, 0, 360, 1000));
+    screen.layOut();
+    QCOMPARE(screen.list->visibleItems().size(), 20);
+    delete screen.list;
 }
 
 void TestMList::livesWithoutAModel()

@@ -238,6 +238,7 @@ void MList::setGeometry(const QRectF &rect)
 bool MList::event(QEvent *event)
 {
     if (event->type() == QEvent::LayoutRequest) {
+        d->hasLeftViewport = false;
         // Also what a cell sends whose size hints changed.
         for (const ListCell &cell : d->cells)
             d->rows.heights.forget(cell.row, 1);

@@ -101,6 +101,8 @@ public:
     bool haveRowsChanged = false;
     bool isLayingOut = false;
     bool isLayoutOutdated = false;
+    /// Until the next request for a layout.
+    bool hasLeftViewport = false;
     qreal toldHeight = 0;
     /// The keyboard is in use: the current row wears a ring while the list has the focus.
     bool isKeyboardUsed = false;

@@ -32,6 +32,11 @@ void MListPrivate::followViewport()
     MPannableViewport *around = viewportAround(q);
     if (around == viewport)
         return;
+    if (!around) {
+        // Mostly because both are being deleted: without a viewport all rows would be made for it.
+        hasLeftViewport = true;
+        requestLayout();
+    }
     viewport = around;
     viewportContext = std::make_unique<QObject>();
     if (!viewport)
@@ -58,7 +63,8 @@ void MListPrivate::layOut()
         return;
     }
     followViewport();
-    if (!q->scene() || !q->isVisible() || !cellCreator || q->size().isEmpty() || seen().isEmpty())
+    if (hasLeftViewport || !q->scene() || !q->isVisible() || !cellCreator || q->size().isEmpty()
+        || seen().isEmpty())
         return;
     const QScopedValueRollback<bool> guard(isLayingOut, true);
     int passes = 0;
