@@ -4,6 +4,7 @@
 #include "librarypages.h"
 
 #include <daskel/daskelutility.h>
+#include <touchcore/mtheme.h>
 #include <touchcore/mwindow.h>
 
 #include <gallerypages.h>
@@ -42,6 +43,8 @@ void openBannerOfTwoLines(MWindow *window)
 
 const QVector<GalleryPage> &galleryPages()
 {
+    // The pages use styles of the library before its first widget is made.
+    MTheme::instance()->addLibrary(QStringLiteral("libdaskel"));
     static const QVector<GalleryPage> pages{
         {"header", "Page header", makeHeaderPage, nullptr},
         {"events", "Events", makeEventsPage, nullptr},
