@@ -73,6 +73,7 @@ private Q_SLOTS:
     void refusesChangesWhenReadOnly_data() { bothModes(); }
     void refusesChangesWhenReadOnly();
     void showsItsStateInTheColoursOfTheTheme();
+    void promptsWhereThePageBegins();
 
 private:
     static void bothModes();
@@ -428,6 +429,22 @@ void TestMTextEdit::showsItsStateInTheColoursOfTheTheme()
     edit->setError(false);
     edit->clearFocus();
     QCOMPARE(pixelsOf(pictureOf(edit), Qt::blue), 0);
+}
+
+/// Whatever the direction of the prompt's own letters and of the keyboard.
+void TestMTextEdit::promptsWhereThePageBegins()
+{
+    QVERIFY(MTheme::instance()->load(R"({"classes": {"MTextEdit": {
+        "backgroundColor": "#ffffff", "promptColor": "#00ff00", "borderColor": "#ffffff"}}})",
+                                     QStringLiteral("test")));
+    MTextEdit *edit = add(MTextEdit::SingleLine);
+    edit->setPrompt(QStringLiteral("Title"));
+    QVERIFY(inkOf(pictureOf(edit)).right() < 150);
+    edit->setLayoutDirection(Qt::RightToLeft);
+    QVERIFY(inkOf(pictureOf(edit)).left() > 150);
+    edit->setText(QStringLiteral("a"));
+    edit->clear();
+    QVERIFY(inkOf(pictureOf(edit)).left() > 150);
 }
 
 QTEST_MAIN(TestMTextEdit)

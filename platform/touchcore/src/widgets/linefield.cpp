@@ -14,10 +14,22 @@ LineField::LineField() : m_edit(new QLineEdit)
     m_edit->installEventFilter(this);
     connect(m_edit, &QLineEdit::textChanged, this, [this] {
         dropHalfCharacter();
+        align();
         Q_EMIT textChanged();
     });
     connect(m_edit, &QLineEdit::returnPressed, this, &TextField::returnPressed);
     connect(m_edit, &QLineEdit::editingFinished, this, &TextField::editingFinished);
+    align();
+}
+
+/// A text begins where its script does; what stands in its place, where the page begins.
+void LineField::align()
+{
+    const bool isMirrored = m_edit->layoutDirection() == Qt::RightToLeft;
+    const Qt::Alignment edge = isMirrored ? Qt::AlignRight : Qt::AlignLeft;
+    m_edit->setAlignment(
+        Qt::AlignVCenter
+        | (m_edit->text().isEmpty() ? edge | Qt::AlignAbsolute : Qt::AlignLeading));
 }
 
 void LineField::dropHalfCharacter()
@@ -41,6 +53,8 @@ void LineField::setText(const QString &text)
 
 bool LineField::eventFilter(QObject *watched, QEvent *event)
 {
+    if (event->type() == QEvent::LayoutDirectionChange)
+        align();
     // A text too long for the field is read from its start, but edited at its end.
     if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut) {
         const Qt::FocusReason reason = static_cast<QFocusEvent *>(event)->reason();

@@ -46,6 +46,7 @@ protected:
 
 private:
     void dropHalfCharacter();
+    void align();
 
     QLineEdit *m_edit;
 };

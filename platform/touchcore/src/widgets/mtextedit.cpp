@@ -224,6 +224,9 @@ void MTextEdit::changeEvent(QEvent *event)
     MStylableWidget::changeEvent(event);
     if (event->type() == QEvent::EnabledChange)
         d->applyMode();
+    // Qt tells only the proxy.
+    if (event->type() == QEvent::LayoutDirectionChange)
+        d->field->widget()->setLayoutDirection(layoutDirection());
 }
 
 void MTextEdit::resizeEvent(QGraphicsSceneResizeEvent *event)
