@@ -66,13 +66,13 @@ QGraphicsWidget *makeButtonsPage()
                     disabled(button("Menu", "", "menu", "icon")),
                     button("Add", "RoundButton", "add", "icon")});
     builder.addCaption(QStringLiteral("Switches and checks"));
-    builder.add(checkable("All day", "switch", true));
-    builder.add(checkable("Hide done to-dos, also those that were done only just now and would "
-                          "otherwise stay until midnight",
-                          "switch", false));
-    builder.add(checkable("Water the plants", "check", true));
-    builder.add(checkable("Buy bread", "check", false));
-    builder.add(disabled(checkable("Not for you", "check", true)));
+    builder.addWide(checkable("All day", "switch", true));
+    builder.addWide(checkable("Hide done to-dos, also those that were done only just now and would "
+                              "otherwise stay until midnight",
+                              "switch", false));
+    builder.addWide(checkable("Water the plants", "check", true));
+    builder.addWide(checkable("Buy bread", "check", false));
+    builder.addWide(disabled(checkable("Not for you", "check", true)));
     builder.addCaption(QStringLiteral("One of several"));
     builder.addJoined(grouped(
         {QStringLiteral("Day"), QStringLiteral("Week"), QStringLiteral("Month")}, "group", 1));
@@ -86,6 +86,6 @@ QGraphicsWidget *makeButtonsPage()
                  QStringLiteral("Every month on the last day, also where it is the 28th")},
                 "choice", 1);
     for (QGraphicsLayoutItem *choice : choices)
-        builder.add(choice);
+        builder.addWide(choice);
     return builder.page();
 }

@@ -11,10 +11,15 @@
 #include <touchcore/mlabel.h>
 #include <touchcore/mlistitem.h>
 #include <touchcore/mmessagebox.h>
+#include <touchcore/mobjectmenu.h>
+#include <touchcore/mpannableviewport.h>
+#include <touchcore/mscenemanager.h>
+#include <touchcore/mscenewindow.h>
 #include <touchcore/msheet.h>
 #include <touchcore/mwindow.h>
 
 #include <QAction>
+#include <QGraphicsLinearLayout>
 
 namespace
 {
@@ -26,6 +31,14 @@ MButton *opening(const char *text, Opener open)
     QObject::connect(button, &MButton::clicked, button,
                      [open] { open(MApplication::activeWindow()); });
     return button;
+}
+
+QList<QAction *> menuActions(QObject *owner)
+{
+    QList<QAction *> actions;
+    for (const char *text : {"Mark as done", "Edit", "Delete"})
+        actions.append(new QAction(QString::fromUtf8(text), owner));
+    return actions;
 }
 } // namespace
 
@@ -42,20 +55,23 @@ QGraphicsWidget *makeDialogsPage()
     builder.addCaption(QStringLiteral("Press this for long"));
     auto *item = new MListItem;
     item->setObjectName(QStringLiteral("itemWithMenu"));
-    for (const char *text : {"Mark as done", "Edit", "Delete"})
-        item->addAction(new QAction(QString::fromUtf8(text), item));
-    builder.add(item);
+    item->addActions(menuActions(item));
+    auto *layout = new QGraphicsLinearLayout(item);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addItem(new MLabel(QStringLiteral("Dentist")));
+    builder.addWide(item);
     return builder.page();
 }
 
 void openDialog(MWindow *window)
 {
-    PageBuilder builder;
+    PageBuilder builder(PageBuilder::NoEdges);
     auto *label = new MLabel(QStringLiteral("How often should this be looked for?"));
     label->setWordWrap(true);
     builder.add(label);
     auto *always = new MButton(QStringLiteral("Every hour"));
     always->setViewType(QStringLiteral("switch"));
+    always->setStyleName(QStringLiteral("DialogSwitchButton"));
     always->setCheckable(true);
     builder.add(always);
     auto *dialog = new MDialog;
@@ -84,7 +100,16 @@ void openLongQuestion(MWindow *window)
 void openSheet(MWindow *window)
 {
     auto *sheet = new MSheet;
-    sheet->setCentralWidget(makeTextPage());
+    auto *cancel = new QAction(QStringLiteral("Cancel"), sheet);
+    auto *save = new QAction(QStringLiteral("Save"), sheet);
+    for (QAction *action : {cancel, save})
+        QObject::connect(action, &QAction::triggered, sheet, [sheet] { sheet->dismiss(); });
+    sheet->setTitle(QStringLiteral("Edit event"));
+    sheet->setCancelAction(cancel);
+    sheet->setDoneAction(save);
+    auto *viewport = new MPannableViewport;
+    viewport->setWidget(makeTextPage());
+    sheet->setCentralWidget(viewport);
     sheet->appear(window, MSceneWindow::DestroyWhenDone);
 }
 
@@ -102,4 +127,11 @@ void openUndoBanner(MWindow *window)
     banner->setTitle(QStringLiteral("“Dentist” is deleted"));
     banner->setActionText(QStringLiteral("Undo"));
     banner->appear(window, MSceneWindow::DestroyWhenDone);
+}
+
+void openMenu(MWindow *window)
+{
+    MSceneWindow *page = window->sceneManager()->topWindow();
+    auto *menu = new MObjectMenu(menuActions(page));
+    menu->popUp(page, page->rect().center());
 }

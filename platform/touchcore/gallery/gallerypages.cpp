@@ -23,6 +23,7 @@ const QVector<GalleryPage> &galleryPages()
         {"sheet", "Sheet", makeLabelsPage, openSheet},
         {"banner", "Banner", makeLabelsPage, openBanner},
         {"undo-banner", "Banner with undo", makeLabelsPage, openUndoBanner},
+        {"menu", "Menu", makeLabelsPage, openMenu},
     };
     return pages;
 }

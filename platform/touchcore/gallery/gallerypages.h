@@ -40,5 +40,6 @@ void openLongQuestion(MWindow *window);
 void openSheet(MWindow *window);
 void openBanner(MWindow *window);
 void openUndoBanner(MWindow *window);
+void openMenu(MWindow *window);
 
 #endif

@@ -23,6 +23,7 @@ const char *const icons[] = {
     "error",        "star",          "eye",        "eye-off",      "drag",
 };
 const int columns = 5;
+const qreal columnWidth = 80; // as wide as the longest name, so that all are alike
 
 QGraphicsWidget *captioned(const char *icon)
 {
@@ -56,6 +57,6 @@ QGraphicsWidget *makeIconsPage()
         ++number;
     }
     for (int column = 0; column < columns; ++column)
-        grid->setColumnStretchFactor(column, 1);
+        grid->setColumnPreferredWidth(column, columnWidth);
     return page;
 }

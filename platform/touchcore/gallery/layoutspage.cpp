@@ -37,6 +37,7 @@ QGraphicsWidget *makeLayoutsPage()
         policy->setContentsMargins(16, 16, 16, 16);
     column->setSpacing(8);
     row->setSpacing(8);
+    grid->setSpacing(8);
     layout->setPortraitPolicy(column);
     layout->setLandscapePolicy(grid);
     QObject::connect(next, &MButton::clicked, page, [layout, column, row, grid] {

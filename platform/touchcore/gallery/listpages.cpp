@@ -25,15 +25,19 @@ public:
         auto *layout = new QGraphicsLinearLayout(Qt::Vertical, this);
         layout->setContentsMargins(0, 8, 0, 8);
         layout->setSpacing(2);
+        layout->addStretch();
         layout->addItem(m_title);
         layout->addItem(m_details);
+        layout->addStretch();
         m_details->setStyleName(QStringLiteral("SupportLabel"));
     }
 
     void show(const QModelIndex &index)
     {
         m_title->setText(index.data(Qt::DisplayRole).toString());
-        m_details->setText(index.data(GalleryListModel::DetailsRole).toString());
+        const QString details = index.data(GalleryListModel::DetailsRole).toString();
+        m_details->setText(details);
+        m_details->setVisible(!details.isEmpty());
     }
 
 private:

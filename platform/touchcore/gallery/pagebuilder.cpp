@@ -9,11 +9,11 @@
 
 #include <QGraphicsLinearLayout>
 
-PageBuilder::PageBuilder() : m_page(new MStylableWidget), m_layout(nullptr)
+PageBuilder::PageBuilder(Edges edges)
+    : m_margin(edges == PageEdges ? MTheme::instance()->measure(QStringLiteral("pageMargin")) : 0),
+      m_page(new MStylableWidget), m_layout(new QGraphicsLinearLayout(Qt::Vertical, m_page))
 {
-    const qreal margin = MTheme::instance()->measure(QStringLiteral("pageMargin"));
-    m_layout = new QGraphicsLinearLayout(Qt::Vertical, m_page);
-    m_layout->setContentsMargins(margin, margin, margin, margin);
+    m_layout->setContentsMargins(0, m_margin, 0, m_margin);
     m_layout->setSpacing(MTheme::instance()->measure(QStringLiteral("itemSpacing")));
 }
 
@@ -27,12 +27,21 @@ void PageBuilder::addCaption(const QString &text)
 {
     auto *caption = new MLabel(text);
     caption->setStyleName(QStringLiteral("CaptionLabel"));
-    m_layout->addItem(caption);
+    if (m_layout->count() > 0)
+        m_layout->setItemSpacing(m_layout->count() - 1,
+                                 MTheme::instance()->measure(QStringLiteral("groupSpacing")));
+    add(caption);
 }
 
 void PageBuilder::add(QGraphicsLayoutItem *item)
 {
+    newRow()->addItem(item);
+}
+
+void PageBuilder::addWide(QGraphicsLayoutItem *item)
+{
     m_layout->addItem(item);
+    m_layout->setItemSpacing(m_layout->count() - 1, 0);
 }
 
 void PageBuilder::addRow(const QList<QGraphicsLayoutItem *> &items)
@@ -47,13 +56,21 @@ void PageBuilder::addJoined(const QList<QGraphicsLayoutItem *> &items)
 
 void PageBuilder::addRow(const QList<QGraphicsLayoutItem *> &items, qreal spacing)
 {
-    auto *row = new QGraphicsLinearLayout(Qt::Horizontal);
-    row->setContentsMargins(0, 0, 0, 0);
+    QGraphicsLinearLayout *row = newRow();
     row->setSpacing(spacing);
     for (QGraphicsLayoutItem *item : items) {
         row->addItem(item);
         row->setAlignment(item, Qt::AlignVCenter);
     }
     row->addStretch();
+}
+
+QGraphicsLinearLayout *PageBuilder::newRow()
+{
+    auto *row = new QGraphicsLinearLayout(Qt::Horizontal);
+    row->setContentsMargins(m_margin, 0, m_margin, 0);
+    // What room there is left stays at the page's end.
+    row->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     m_layout->addItem(row);
+    return row;
 }

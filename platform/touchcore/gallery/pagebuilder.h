@@ -16,12 +16,19 @@ class QGraphicsWidget;
 class PageBuilder
 {
 public:
-    PageBuilder();
+    enum Edges {
+        PageEdges, ///< the page's margins around it
+        NoEdges, ///< for what stands in a dialog, which has paddings of its own
+    };
+
+    explicit PageBuilder(Edges edges = PageEdges);
 
     /// The finished page, with the room that is left at its end; belongs to the caller.
     QGraphicsWidget *page();
     void addCaption(const QString &text);
     void add(QGraphicsLayoutItem *item);
+    /// From edge to edge of the page, for rows that have paddings of their own.
+    void addWide(QGraphicsLayoutItem *item);
     /// Beside each other, each as wide as it wants to be.
     void addRow(const QList<QGraphicsLayoutItem *> &items);
     /// The same without room between them.
@@ -29,7 +36,9 @@ public:
 
 private:
     void addRow(const QList<QGraphicsLayoutItem *> &items, qreal spacing);
+    QGraphicsLinearLayout *newRow();
 
+    const qreal m_margin;
     QGraphicsWidget *m_page;
     QGraphicsLinearLayout *m_layout;
 };

@@ -40,7 +40,7 @@ QGraphicsWidget *makeChoicesPage()
                          QStringLiteral("15 minutes before"), QStringLiteral("1 hour before"),
                          QStringLiteral("1 day before")});
     choices->setCurrentIndex(2);
-    builder.add(choices);
+    builder.addWide(choices);
     builder.addCaption(QStringLiteral("Amounts"));
     auto *slider = new MSlider;
     slider->setRange(0, 100);
@@ -54,6 +54,7 @@ QGraphicsWidget *makeChoicesPage()
     auto *spinner = new MProgressIndicator;
     spinner->setViewType(QStringLiteral("spinner"));
     spinner->setUnknownDuration(true);
+    spinner->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     builder.addRow({spinner});
     return builder.page();
 }

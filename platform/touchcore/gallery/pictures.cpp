@@ -46,7 +46,8 @@ QImage pictureOf(MWindow *window, int scale)
     QImage image(window->size() * scale, QImage::Format_RGB32);
     image.setDevicePixelRatio(scale);
     QPainter painter(&image);
-    window->render(&painter);
+    // Without it the size is taken for that of the image, which is scaled already.
+    window->render(&painter, QRectF(QPointF(), window->size()));
     return image;
 }
 } // namespace
