@@ -5,9 +5,12 @@
 #include <touchcore/mapplicationpage.h>
 #include <touchcore/mbutton.h>
 #include <touchcore/mbuttongroup.h>
+#include <touchcore/mcellgrid.h>
+#include <touchcore/mdatepicker.h>
 #include <touchcore/mdialog.h>
 #include <touchcore/mlabel.h>
 #include <touchcore/mlistitem.h>
+#include <touchcore/mlocale.h>
 #include <touchcore/mpannableviewport.h>
 #include <touchcore/mscenemanager.h>
 #include <touchcore/mslider.h>
@@ -56,6 +59,9 @@ private Q_SLOTS:
     void readsRowsAsOneText();
     void doesActions();
     void movesSliders();
+    void readsTheDaysOfAMonth_data();
+    void readsTheDaysOfAMonth();
+    void choosesDays();
     void keepsPasswordsToItself();
     void showsOnlyTheDialogWhileItIsOpen();
     void findsWidgetsByPlace();
@@ -63,6 +69,9 @@ private Q_SLOTS:
 
 private:
     void show(QGraphicsWidget *content);
+    static MDatePicker *newPicker();
+    /// Of the picker on the page.
+    MCellGrid *grid() const;
     QAccessibleInterface *page() const { return interfaceOf(m_page); }
 
     std::unique_ptr<MWindow> m_window;
@@ -89,6 +98,24 @@ void TestAccessibility::show(QGraphicsWidget *content)
     m_page->setCentralWidget(content);
     m_page->appear(m_window.get());
     QCoreApplication::processEvents();
+}
+
+MDatePicker *TestAccessibility::newPicker()
+{
+    auto *picker = new MDatePicker;
+    picker->setRange(QDate(2026, 11, 1), QDate(2026, 12, 31));
+    picker->setDate(QDate(2026, 11, 24));
+    return picker;
+}
+
+MCellGrid *TestAccessibility::grid() const
+{
+    const QList<QGraphicsItem *> items = m_window->scene()->items();
+    for (QGraphicsItem *item : items) {
+        if (auto *found = qobject_cast<MCellGrid *>(item->toGraphicsObject()))
+            return found;
+    }
+    return nullptr;
 }
 
 void TestAccessibility::tellsRoleNameAndActions_data()
@@ -234,6 +261,58 @@ void TestAccessibility::movesSliders()
     value->setCurrentValue(30);
     QCOMPARE(slider->value(), 30);
     QCOMPARE(value->currentValue().toInt(), 30);
+}
+
+void TestAccessibility::readsTheDaysOfAMonth_data()
+{
+    QTest::addColumn<int>("place");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<bool>("isSelected");
+    QTest::addColumn<Actions>("actions");
+    const QString press = QAccessibleActionInterface::pressAction();
+    QTest::newRow("before the range") << 0 << "Monday, 26 October 2026" << false << Actions();
+    QTest::newRow("a day") << 8 << "Tuesday, 3 November 2026" << false << Actions{press};
+    QTest::newRow("the chosen day") << 29 << "Tuesday, 24 November 2026" << true << Actions{press};
+}
+
+void TestAccessibility::readsTheDaysOfAMonth()
+{
+    QFETCH(int, place);
+    MLocale::setDefault(MLocale(QStringLiteral("en_GB")));
+    show(newPicker());
+    QAccessibleInterface *table = interfaceOf(grid());
+    QCOMPARE(table->role(), QAccessible::Table);
+    QCOMPARE(table->childCount(), 42);
+    QVERIFY(!table->child(42));
+    QAccessibleInterface *day = table->child(place);
+    QCOMPARE(day->role(), QAccessible::Cell);
+    QTEST(day->text(QAccessible::Name), "name");
+    QTEST(bool(day->state().selected), "isSelected");
+    QTEST(day->actionInterface()->actionNames(), "actions");
+    QCOMPARE(bool(day->state().disabled), day->actionInterface()->actionNames().isEmpty());
+    QCOMPARE(day->parent(), table);
+    QCOMPARE(table->indexOfChild(day), place);
+    const QPoint middle = day->rect().center();
+    QCOMPARE(interfaceOf(m_window.get())->childAt(middle.x(), middle.y()), day);
+}
+
+void TestAccessibility::choosesDays()
+{
+    MDatePicker *picker = newPicker();
+    show(picker);
+    QAccessibleInterface *table = interfaceOf(grid());
+    table->child(0)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    QCOMPARE(picker->date(), QDate(2026, 11, 24));
+    table->child(8)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    QCOMPARE(picker->date(), QDate(2026, 11, 3));
+    grid()->setFocus();
+    QCOMPARE(table->focusChild(), table->child(8));
+    QVERIFY(table->child(8)->state().focused);
+    // Twelve months take the place of the days.
+    QAccessibleInterface *last = table->child(41);
+    grid()->setCells(grid()->cells().mid(0, 12));
+    QVERIFY(!last->isValid());
+    QVERIFY(table->child(11)->isValid());
 }
 
 void TestAccessibility::keepsPasswordsToItself()

@@ -7,6 +7,7 @@
 #include <touchcore/mbutton.h>
 #include <touchcore/mbuttongroup.h>
 #include <touchcore/mbuttonviews.h>
+#include <touchcore/mscenemanager.h>
 #include <touchcore/mtheme.h>
 
 #include <QGraphicsLinearLayout>
@@ -68,6 +69,7 @@ void TestMButtonViews::init()
 void TestMButtonViews::cleanup()
 {
     MTheme::instance()->setMotionReduced(false);
+    MSceneManager::setAnimationsEnabled(true);
     m_screen.reset();
 }
 
@@ -203,15 +205,19 @@ void TestMButtonViews::giveTheThumbItsPlaceAtOnce_data()
 {
     QTest::addColumn<bool>("isOnDisplay");
     QTest::addColumn<bool>("isMotionReduced");
-    QTest::newRow("where nobody sees it") << false << false;
-    QTest::newRow("where nothing may move") << true << true;
+    QTest::addColumn<bool>("areAnimationsEnabled");
+    QTest::newRow("where nobody sees it") << false << false << true;
+    QTest::newRow("where motion is reduced") << true << true << true;
+    QTest::newRow("where nothing is animated") << true << false << false;
 }
 
 void TestMButtonViews::giveTheThumbItsPlaceAtOnce()
 {
     QFETCH(bool, isOnDisplay);
     QFETCH(bool, isMotionReduced);
+    QFETCH(bool, areAnimationsEnabled);
 
+    MSceneManager::setAnimationsEnabled(areAnimationsEnabled);
     MTheme::instance()->setMotionReduced(isMotionReduced);
     MButton *button = add(QStringLiteral("switch"), QStringLiteral("All day"));
     MWidget::updateDisplayState(button, isOnDisplay);

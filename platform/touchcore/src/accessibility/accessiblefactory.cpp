@@ -3,9 +3,11 @@
 
 #include "accessiblefactory.h"
 
+#include "accessiblegrid.h"
 #include "accessiblewidget.h"
 #include "accessiblewindow.h"
 
+#include <touchcore/mcellgrid.h>
 #include <touchcore/mwidget.h>
 #include <touchcore/mwindow.h>
 
@@ -17,6 +19,8 @@ QAccessibleInterface *interfaceOf(const QString &, QObject *object)
 {
     if (auto *window = qobject_cast<MWindow *>(object))
         return new AccessibleWindow(window);
+    if (auto *grid = qobject_cast<MCellGrid *>(object))
+        return new AccessibleGrid(grid);
     if (auto *widget = qobject_cast<MWidget *>(object))
         return new AccessibleWidget(widget);
     return nullptr;

@@ -156,11 +156,15 @@ QString AccessibleWidget::text(QAccessible::Text type) const
 
 QRect AccessibleWidget::rect() const
 {
+    return onScreen(widget()->rect());
+}
+
+QRect AccessibleWidget::onScreen(const QRectF &part) const
+{
     const QGraphicsView *view = viewOf(widget());
     if (!view)
         return {};
-    const QRect inView =
-        view->mapFromScene(widget()->mapRectToScene(widget()->rect())).boundingRect();
+    const QRect inView = view->mapFromScene(widget()->mapRectToScene(part)).boundingRect();
     return {view->viewport()->mapToGlobal(inView.topLeft()), inView.size()};
 }
 

@@ -41,8 +41,12 @@ public:
     QVariant maximumValue() const override;
     QVariant minimumStepSize() const override;
 
-private:
+protected:
     MWidget *widget() const;
+    /// Where a part of the widget is seen on the screen; empty when no window shows it.
+    QRect onScreen(const QRectF &part) const;
+
+private:
     /// Presses and releases in the middle, as a finger would.
     void tap();
 };

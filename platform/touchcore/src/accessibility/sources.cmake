@@ -3,6 +3,7 @@
 
 set(TOUCHCORE_ACCESSIBILITY_SOURCES
     src/accessibility/accessiblefactory.cpp
+    src/accessibility/accessiblegrid.cpp
     src/accessibility/accessibletexts.cpp
     src/accessibility/accessiblewidget.cpp
     src/accessibility/accessiblewindow.cpp

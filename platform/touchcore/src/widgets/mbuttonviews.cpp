@@ -5,6 +5,7 @@
 
 #include <touchcore/mbutton.h>
 #include <touchcore/mbuttonviews.h>
+#include <touchcore/mscenemanager.h>
 #include <touchcore/mtheme.h>
 #include <touchcore/mviewfactory.h>
 
@@ -154,8 +155,9 @@ void MButtonSwitchView::updateData(const QList<const char *> &modifications)
     d->slide.stop();
     d->slide.setStartValue(d->thumb);
     d->slide.setEndValue(side);
-    const bool isSeen = button()->isOnDisplay() && !MTheme::instance()->isMotionReduced();
-    d->slide.setDuration(isSeen ? style()->switchDuration() : 0);
+    const bool isSliding = button()->isOnDisplay() && MSceneManager::areAnimationsEnabled()
+        && !MTheme::instance()->isMotionReduced();
+    d->slide.setDuration(isSliding ? style()->switchDuration() : 0);
     d->slide.start();
 }
 

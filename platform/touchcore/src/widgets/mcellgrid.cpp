@@ -6,6 +6,7 @@
 
 #include <touchcore/mcellgrid.h>
 
+#include <QAccessible>
 #include <QGraphicsSceneMouseEvent>
 #include <QKeyEvent>
 #include <QPainter>
@@ -182,6 +183,11 @@ void MCellGrid::setChosen(int index)
         return;
     d->chosen = chosen;
     update();
+    if (chosen >= 0 && hasFocus()) {
+        QAccessibleEvent event(this, QAccessible::Focus);
+        event.setChild(chosen);
+        QAccessible::updateAccessibility(&event);
+    }
 }
 
 QRectF MCellGrid::cellRect(int index) const
