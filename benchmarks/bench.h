@@ -131,6 +131,7 @@ void measureCalendar(const Bench &bench);
 void measureCache(const Bench &bench);
 void measureLocale(const Bench &bench);
 void measureWidgets(const Bench &bench);
+void measureLists(const Bench &bench);
 void measureServices(const Bench &bench);
 
 #endif

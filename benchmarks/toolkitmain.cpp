@@ -15,6 +15,7 @@ int main(int argc, char *argv[])
     require(!words.isEmpty(), QStringLiteral("usage: toolkit_bench <folder> [filter...]"));
     const Bench bench(words.first(), words.mid(1));
     measureWidgets(bench);
+    measureLists(bench);
     measureServices(bench);
     return 0;
 }
