@@ -76,5 +76,70 @@ SPDX-License-Identifier: LGPL-2.1-or-later
         <extracomment>Menu of a note, and the button that does it.</extracomment>
         <translation>Delete</translation>
     </message>
+    <message id="qtn_caln_delete_question">
+        <source>Delete “%1”?</source>
+        <extracomment>%1 is the title of a note.</extracomment>
+        <translation>Delete “%1”?</translation>
+    </message>
+    <message id="qtn_caln_delete_repeating">
+        <source>“%1” repeats. How much of it do you want to delete?</source>
+        <extracomment>%1 is the title of a note. Below are buttons for this one, for this and all later ones, and for the series.</extracomment>
+        <translation>“%1” repeats. How much of it do you want to delete?</translation>
+    </message>
+    <message id="qtn_caln_delete_this">
+        <source>Delete this one</source>
+        <extracomment>Button: one occurrence of a repeating note.</extracomment>
+        <translation>Delete this one</translation>
+    </message>
+    <message id="qtn_caln_delete_later">
+        <source>Delete this and later ones</source>
+        <extracomment>Button: an occurrence of a repeating note and those after it.</extracomment>
+        <translation>Delete this and later ones</translation>
+    </message>
+    <message id="qtn_caln_delete_series">
+        <source>Delete series</source>
+        <extracomment>Button: all occurrences of a repeating note.</extracomment>
+        <translation>Delete series</translation>
+    </message>
+    <message id="qtn_caln_deleted">
+        <source>“%1” deleted</source>
+        <extracomment>Beside a button to undo it. %1 is the title of a note.</extracomment>
+        <translation>“%1” deleted</translation>
+    </message>
+    <message id="qtn_caln_delete_failed">
+        <source>“%1” could not be deleted. Nothing was changed.</source>
+        <extracomment>%1 is the title of a note.</extracomment>
+        <translation>“%1” could not be deleted. Nothing was changed.</translation>
+    </message>
+    <message id="qtn_caln_delete_read_only">
+        <source>“%1” can only be read, not deleted.</source>
+        <extracomment>%1 is the title of a note.</extracomment>
+        <translation>“%1” can only be read, not deleted.</translation>
+    </message>
+    <message id="qtn_caln_undo_failed">
+        <source>“%1” is back, but it could not be saved yet.</source>
+        <extracomment>%1 is the title of a note that was deleted.</extracomment>
+        <translation>“%1” is back, but it could not be saved yet.</translation>
+    </message>
+    <message id="qtn_caln_open_link">
+        <source>Open this with another program?</source>
+        <extracomment>Above the address of a link or an attachment.</extracomment>
+        <translation>Open this with another program?</translation>
+    </message>
+    <message id="qtn_comm_open">
+        <source>Open</source>
+        <extracomment>Button.</extracomment>
+        <translation>Open</translation>
+    </message>
+    <message id="qtn_comm_cancel">
+        <source>Cancel</source>
+        <extracomment>Button.</extracomment>
+        <translation>Cancel</translation>
+    </message>
+    <message id="qtn_comm_undo">
+        <source>Undo</source>
+        <extracomment>Button.</extracomment>
+        <translation>Undo</translation>
+    </message>
 </context>
 </TS>

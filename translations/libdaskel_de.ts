@@ -76,5 +76,70 @@ SPDX-License-Identifier: LGPL-2.1-or-later
         <extracomment>Menu of a note, and the button that does it.</extracomment>
         <translation>Löschen</translation>
     </message>
+    <message id="qtn_caln_delete_question">
+        <source>Delete “%1”?</source>
+        <extracomment>%1 is the title of a note.</extracomment>
+        <translation>„%1“ löschen?</translation>
+    </message>
+    <message id="qtn_caln_delete_repeating">
+        <source>“%1” repeats. How much of it do you want to delete?</source>
+        <extracomment>%1 is the title of a note. Below are buttons for this one, for this and all later ones, and for the series.</extracomment>
+        <translation>„%1“ wiederholt sich. Wie viel davon möchten Sie löschen?</translation>
+    </message>
+    <message id="qtn_caln_delete_this">
+        <source>Delete this one</source>
+        <extracomment>Button: one occurrence of a repeating note.</extracomment>
+        <translation>Nur dieses löschen</translation>
+    </message>
+    <message id="qtn_caln_delete_later">
+        <source>Delete this and later ones</source>
+        <extracomment>Button: an occurrence of a repeating note and those after it.</extracomment>
+        <translation>Dieses und spätere löschen</translation>
+    </message>
+    <message id="qtn_caln_delete_series">
+        <source>Delete series</source>
+        <extracomment>Button: all occurrences of a repeating note.</extracomment>
+        <translation>Ganze Serie löschen</translation>
+    </message>
+    <message id="qtn_caln_deleted">
+        <source>“%1” deleted</source>
+        <extracomment>Beside a button to undo it. %1 is the title of a note.</extracomment>
+        <translation>„%1“ gelöscht</translation>
+    </message>
+    <message id="qtn_caln_delete_failed">
+        <source>“%1” could not be deleted. Nothing was changed.</source>
+        <extracomment>%1 is the title of a note.</extracomment>
+        <translation>„%1“ konnte nicht gelöscht werden. Es wurde nichts geändert.</translation>
+    </message>
+    <message id="qtn_caln_delete_read_only">
+        <source>“%1” can only be read, not deleted.</source>
+        <extracomment>%1 is the title of a note.</extracomment>
+        <translation>„%1“ kann nur gelesen, nicht gelöscht werden.</translation>
+    </message>
+    <message id="qtn_caln_undo_failed">
+        <source>“%1” is back, but it could not be saved yet.</source>
+        <extracomment>%1 is the title of a note that was deleted.</extracomment>
+        <translation>„%1“ ist wieder da, konnte aber noch nicht gespeichert werden.</translation>
+    </message>
+    <message id="qtn_caln_open_link">
+        <source>Open this with another program?</source>
+        <extracomment>Above the address of a link or an attachment.</extracomment>
+        <translation>Mit einem anderen Programm öffnen?</translation>
+    </message>
+    <message id="qtn_comm_open">
+        <source>Open</source>
+        <extracomment>Button.</extracomment>
+        <translation>Öffnen</translation>
+    </message>
+    <message id="qtn_comm_cancel">
+        <source>Cancel</source>
+        <extracomment>Button.</extracomment>
+        <translation>Abbrechen</translation>
+    </message>
+    <message id="qtn_comm_undo">
+        <source>Undo</source>
+        <extracomment>Button.</extracomment>
+        <translation>Rückgängig</translation>
+    </message>
 </context>
 </TS>

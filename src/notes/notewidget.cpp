@@ -3,6 +3,7 @@
 
 #include "notedetails.h"
 #include "notetimes.h"
+#include "notetitle.h"
 #include "notewidget_p.h"
 
 #include <daskel/db_instance.h>
@@ -35,13 +36,6 @@ NoteWidgetModel::NoteType typeOf(const KCalCore::Incidence &incidence)
     }
 }
 
-/// A title is one line, whatever was typed or received.
-QString titleOf(const KCalCore::Incidence &incidence)
-{
-    const QString title = incidence.summary().simplified();
-    return title.isEmpty() ? qtTrId("qtn_caln_no_title") : title;
-}
-
 QColor colorOf(const KCalCore::Incidence::Ptr &incidence)
 {
     const QString notebookUid = DbInstance::instance()->calendar()->notebook(incidence);
@@ -65,7 +59,7 @@ void NoteWidgetPrivate::fillModel(const KCalCore::Incidence::Ptr &incidence, con
     model->setHasAlarm(incidence->hasEnabledAlarms());
     model->setColor(colorOf(incidence));
     model->setType(typeOf(*incidence));
-    model->setTitle(titleOf(*incidence));
+    model->setTitle(noteTitle(*incidence));
     model->setLocation(incidence->location());
     model->setStartTime(start);
     model->setEndTime(end);
@@ -225,7 +219,7 @@ void NoteWidget::retranslateUI()
 {
     d->rebuildMenu();
     if (const auto incidence = note())
-        model()->setTitle(titleOf(*incidence));
+        model()->setTitle(noteTitle(*incidence));
 }
 
 void NoteWidget::updateData(const QList<const char *> &modifications)

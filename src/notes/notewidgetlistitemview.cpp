@@ -143,7 +143,7 @@ void NoteWidgetListItemView::showTexts()
                                       ? QStringLiteral("NoteListItemTitleContainerWithAlarm")
                                       : QStringLiteral("NoteListItemTitleContainerWithoutAlarm"));
     d->frame->setContentsMargins(stripeRoom(), style()->paddingTop(), marksRoom(),
-                               style()->paddingBottom());
+                                 style()->paddingBottom());
     // Squeezed, it is as high as its title.
     controller()->setMinimumHeight(isSqueezed ? -1 : style()->minimumSize().height());
 }
