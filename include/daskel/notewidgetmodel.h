@@ -46,6 +46,11 @@ public:
     M_MODEL_PROPERTY(bool, tentative, setTentative, false)
     M_MODEL_PROPERTY(QString, deleteNoteShortTitle, setDeleteNoteShortTitle)
     M_MODEL_PROPERTY(bool, readOnly, setReadOnly, false)
+
+public:
+    /// Tells the view that the note is another one, although the members may be the same: what it
+    /// shows also depends on the time, the language, and what stands in the incidence alone.
+    void reportNote() { memberModified("uid"); }
 };
 
 #endif

@@ -54,6 +54,7 @@ void NoteWidgetPrivate::fillModel(const KCalCore::Incidence::Ptr &incidence, con
 {
     NoteWidgetModel *model = q->model();
     const MModelTransaction transaction(model);
+    model->reportNote();
     model->setUid(incidence->uid());
     model->setRecurrenceId(KDateTime(incidence->recurrenceId()));
     model->setHasAlarm(incidence->hasEnabledAlarms());
@@ -218,6 +219,8 @@ QString NoteWidget::accessibleName() const
 void NoteWidget::retranslateUI()
 {
     d->rebuildMenu();
+    const MModelTransaction transaction(model());
+    model()->reportNote();
     if (const auto incidence = note())
         model()->setTitle(noteTitle(*incidence));
 }

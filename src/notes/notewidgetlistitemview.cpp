@@ -111,22 +111,11 @@ NoteWidgetListItemView::~NoteWidgetListItemView()
     delete d->lines;
 }
 
-void NoteWidgetListItemView::updateData(const QList<const char *> &modifications)
-{
-    NoteWidgetView::updateData(modifications);
-    showTexts();
-}
-
-void NoteWidgetListItemView::applyStyle()
-{
-    NoteWidgetView::applyStyle();
-    showTexts();
-}
-
 void NoteWidgetListItemView::drawTexts(QPainter *) const { }
 
-void NoteWidgetListItemView::showTexts()
+void NoteWidgetListItemView::showNote()
 {
+    NoteWidgetView::showNote();
     const NoteWidgetModel *model = note()->model();
     const bool isSqueezed = model->squeezed();
     const bool isOverdue = times().isOverdue;

@@ -20,14 +20,11 @@ public:
     explicit NoteWidgetListItemView(NoteWidget *controller);
     ~NoteWidgetListItemView() override;
 
-    void updateData(const QList<const char *> &modifications) override;
-    void applyStyle() override;
-
 protected:
+    void showNote() override;
     void drawTexts(QPainter *painter) const override;
 
 private:
-    void showTexts();
     qreal timeColumnWidth() const;
     QString titleStyle() const;
     /// What stands below the title: the place, and that it is cancelled.

@@ -47,7 +47,7 @@ void NoteWidgetView::updateData(const QList<const char *> &modifications)
 {
     const NoteWidgetModel *model = note()->model();
     if (!areOfTheTouch(modifications))
-        readDetails();
+        showNote();
     if (contains(modifications, "pressed") || contains(modifications, "selected")) {
         setStyleMode(model->pressed()        ? QByteArrayLiteral("pressed")
                          : model->selected() ? QByteArrayLiteral("selected")
@@ -58,11 +58,11 @@ void NoteWidgetView::updateData(const QList<const char *> &modifications)
 
 void NoteWidgetView::applyStyle()
 {
-    readDetails();
+    showNote();
     MWidgetView::applyStyle();
 }
 
-void NoteWidgetView::readDetails()
+void NoteWidgetView::showNote()
 {
     const NoteWidgetModel *model = note()->model();
     m_details = noteDetails(*note());

@@ -37,13 +37,13 @@ protected:
     qreal stripeRoom() const;
     /// How wide the marks are with the room around them.
     qreal marksRoom() const;
+    /// The note or its style changed: reads anew what does not stand in the model.
+    virtual void showNote();
     virtual void drawTexts(QPainter *painter) const;
 
 private:
     void drawStripe(QPainter *painter) const;
     void drawMarks(QPainter *painter) const;
-    /// Reads anew what does not stand in the model.
-    void readDetails();
 
     NoteDetails m_details;
     NoteTimes m_times;

@@ -23,6 +23,8 @@ public:
         DaskelTranslator::installLibdaskelTranslationCatalogs(QString());
     }
 
+    void setToday(const QDate &today) { m_database.environment.setToday(today); }
+
     template <class Pointer> static Pointer add(const Pointer &incidence)
     {
         DbInstance::instance()->calendar()->addIncidence(incidence);

@@ -79,6 +79,7 @@ private Q_SLOTS:
     void obeysKeys();
     void writesInStyles_data();
     void writesInStyles();
+    void followsWhatItsModelDoesNotHold();
     void drawsItsStripe_data();
     void drawsItsStripe();
     void isReadAloud_data();
@@ -425,6 +426,23 @@ void TestNoteWidget::writesInStyles()
     QVERIFY(note->size().height() >= 56);
     note->setSqueezed(kind == QLatin1String("squeezed"));
     QTEST(labelsOf(*note).value(text), "style");
+}
+
+void TestNoteWidget::followsWhatItsModelDoesNotHold()
+{
+    const auto event = makeEvent("n", morning, morning.addSecs(3600));
+    NoteWidget *note = shown(event);
+    event->setStatus(KCalCore::Incidence::StatusCanceled);
+    note->setNote(event);
+    QCOMPARE(labelsOf(*note).value(QStringLiteral("n")), QStringLiteral("NoteListItemTitleDone"));
+
+    const auto todo = makeTodo("t", morning.addSecs(36000));
+    note = shown(todo);
+    QVERIFY(labelsOf(*note).contains(QStringLiteral("Today")));
+    m_notes->setToday(morning.date().addDays(1));
+    note->setNote(todo);
+    QCOMPARE(labelsOf(*note).value(QStringLiteral("10 Mar")),
+             QStringLiteral("NoteListItemTimeOverdue"));
 }
 
 void TestNoteWidget::drawsItsStripe_data()
