@@ -49,6 +49,7 @@ const QVector<GalleryPage> &galleryPages()
         {"header", "Page header", makeHeaderPage, nullptr},
         {"events", "Events", makeEventsPage, nullptr},
         {"todos", "To-dos", makeTodosPage, nullptr},
+        {"delete", "Deleting", makeEventsPage, openDeleteQuestion},
         {"states", "States", makeStatesPage, nullptr},
         {"question", "Question", makeHeaderPage, openPlainQuestion},
         {"titled-question", "Question with a title", makeHeaderPage, openTitledQuestion},

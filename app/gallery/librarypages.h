@@ -4,11 +4,14 @@
 #ifndef LIBRARYPAGES_H
 #define LIBRARYPAGES_H
 
+class MWindow;
 class QGraphicsWidget;
 
 QGraphicsWidget *makeEventsPage();
 QGraphicsWidget *makeHeaderPage();
 QGraphicsWidget *makeStatesPage();
 QGraphicsWidget *makeTodosPage();
+
+void openDeleteQuestion(MWindow *window);
 
 #endif

@@ -6,10 +6,12 @@
 #include <daskel/daskeltranslator.h>
 #include <daskel/db_instance.h>
 #include <daskel/notebookmanager.h>
+#include <daskel/notedeletion.h>
 #include <daskel/notelistwidget.h>
 #include <daskel/noteloader.h>
 #include <kcalcompat/clock.h>
 #include <mkcal/sqlitestorage.h>
+#include <touchcore/mwindow.h>
 
 #include <KCalendarCore/Event>
 #include <KCalendarCore/Journal>
@@ -17,6 +19,8 @@
 
 #include <QApplication>
 #include <QTemporaryDir>
+
+#include <algorithm>
 
 namespace
 {
@@ -75,6 +79,14 @@ public:
         journal->setDtStart(at(8));
         add(journal);
         return journal;
+    }
+
+    static KCalCore::Incidence::Ptr named(const QString &title)
+    {
+        const KCalCore::Incidence::List all = DbInstance::instance()->calendar()->incidences();
+        return *std::find_if(all.begin(), all.end(), [&title](const auto &incidence) {
+            return incidence->summary() == title;
+        });
     }
 
 private:
@@ -162,8 +174,10 @@ QVector<Row> todoRows(Notes &notes)
     const auto call = notes.todo(QStringLiteral("Call home"), at(18));
     remind(call);
     const auto done = notes.todo(QStringLiteral("Water the flowers"), at(0));
+    done->startUpdates();
     done->setAllDay(true);
     done->setCompleted(true);
+    done->endUpdates();
     const auto someday = notes.todo(QStringLiteral("Learn to sail"), {});
     QVector<Row> rows;
     for (const auto &todo : {late, rent})
@@ -224,6 +238,13 @@ QGraphicsWidget *makeEventsPage()
 {
     static const QVector<Row> rows = eventRows(theNotes());
     return new RowsList(rows);
+}
+
+void openDeleteQuestion(MWindow *window)
+{
+    auto *deletion = new NoteDeletion(window, window);
+    const auto lesson = theNotes().named(QStringLiteral("Swimming lesson"));
+    deletion->ask(lesson->uid(), {}, KDateTime(lesson->dtStart()));
 }
 
 QGraphicsWidget *makeTodosPage()
