@@ -77,6 +77,7 @@ public:
     bool loadByAttendee(const QString &) override { return false; }
     Incidences search(const QString &, int) override { return {}; }
     QDate nextDateWithIncidence(const QDate &) override { return {}; }
+    QDate previousDateWithIncidence(const QDate &) override { return {}; }
     bool allIncidences(Incidences *list, const QString &notebookUid) override
     {
         calls << QLatin1String("allIncidences ") + notebookUid;

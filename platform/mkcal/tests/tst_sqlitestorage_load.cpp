@@ -64,6 +64,9 @@ private Q_SLOTS:
     void searchFindsAnyCase();
     void nextDate_data();
     void nextDate();
+    void previousDate_data();
+    void previousDate();
+    void previousDateHeedsWhatRepeatsEveryMinute();
     void allIncidencesStayOutOfTheCalendar();
 
 private:
@@ -348,6 +351,39 @@ void TestStorageLoad::nextDate()
     const auto reader = m_fixture->open();
     QCOMPARE(reader->storage->nextDateWithIncidence(from), next);
     QVERIFY(reader->uids().isEmpty());
+}
+
+void TestStorageLoad::previousDate_data()
+{
+    QTest::addColumn<QDate>("from");
+    QTest::addColumn<QDate>("previous");
+    QTest::newRow("the same day") << QDate(2026, 4, 10) << QDate(2026, 4, 10);
+    QTest::newRow("in the middle of a trip") << QDate(2026, 2, 15) << QDate(2026, 2, 15);
+    QTest::newRow("the last day of a trip") << QDate(2026, 4, 9) << QDate(2026, 4, 2);
+    QTest::newRow("a moved occurrence") << QDate(2026, 9, 1) << QDate(2026, 5, 4);
+    QTest::newRow("an occurrence of a series") << QDate(2025, 3, 1) << QDate(2025, 1, 5);
+    QTest::newRow("far away") << QDate(2035, 1, 1) << QDate(2026, 5, 4);
+    QTest::newRow("too far away") << QDate(2037, 1, 1) << QDate();
+    QTest::newRow("nothing before") << QDate(2024, 12, 31) << QDate();
+}
+
+void TestStorageLoad::previousDate()
+{
+    QFETCH(QDate, from);
+    QFETCH(QDate, previous);
+    const auto reader = m_fixture->open();
+    QCOMPARE(reader->storage->previousDateWithIncidence(from), previous);
+    QVERIFY(reader->uids().isEmpty());
+}
+
+void TestStorageLoad::previousDateHeedsWhatRepeatsEveryMinute()
+{
+    const auto alarm = meeting("every minute", at(2030, 1, 1, 9));
+    alarm->recurrence()->setMinutely(1);
+    alarm->recurrence()->setDuration(3 * 24 * 60 + 1);
+    QVERIFY(m_fixture->store({alarm}));
+    const auto reader = m_fixture->open();
+    QCOMPARE(reader->storage->previousDateWithIncidence(QDate(2030, 1, 7)), QDate(2030, 1, 4));
 }
 
 void TestStorageLoad::allIncidencesStayOutOfTheCalendar()

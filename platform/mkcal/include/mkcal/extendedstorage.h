@@ -80,6 +80,8 @@ public:
     /// The first day at or after @p from that holds an event or to-do (occurrences included);
     /// invalid when there is none within ten years.
     virtual QDate nextDateWithIncidence(const QDate &from) = 0;
+    /// The last day at or before @p from that does; invalid when there is none within ten years.
+    virtual QDate previousDateWithIncidence(const QDate &from) = 0;
 
     /// Fills @p list with every incidence of the storage (of one notebook when the UID is not
     /// empty) without loading them into the calendar.

@@ -57,6 +57,7 @@ public:
     bool loadByAttendee(const QString &email) override;
     KCalCore::Incidence::List search(const QString &text, int limit = 0) override;
     QDate nextDateWithIncidence(const QDate &from) override;
+    QDate previousDateWithIncidence(const QDate &from) override;
     bool allIncidences(KCalCore::Incidence::List *list,
                        const QString &notebookUid = QString()) override;
 

@@ -84,6 +84,8 @@ public:
     bool loadDays(const DateRange &range);
     /// The non-recurring rows that may lie in the range.
     bool readDays(const DateRange &range, const ComponentReader::Sink &sink);
+    /// The events and to-dos of the range and the series that are alive in it, past the calendar.
+    bool readShown(const DateRange &range, KCalCore::Incidence::List *found);
     bool loadRecurringDays(const DateRange &range);
     bool loadUid(const QString &uid);
     bool loadIds(const QVector<QPair<qint64, QString>> &idsAndFamilies);

@@ -9,6 +9,11 @@ namespace mKCal
 {
 namespace
 {
+// The next day with something is mostly near: each window is longer than the one before.
+constexpr int firstWindowDays = 7;
+constexpr int windowGrowth = 4;
+constexpr int horizonYears = 10;
+
 /// The first day of @p window on which one of @p incidences occurs; invalid when none does.
 QDate firstDay(ExtendedCalendar &calendar, KCalCore::Incidence::List incidences,
                const DateRange &window)
@@ -22,6 +27,33 @@ QDate firstDay(ExtendedCalendar &calendar, KCalCore::Incidence::List incidences,
         return {};
     const QDate day = expanded.first().first.dtStart.toTimeZone(calendar.timeZone()).date();
     return std::max(window.first, day);
+}
+
+/// The last day of @p window on which one of @p incidences occurs; invalid when none does.
+QDate lastDay(ExtendedCalendar &calendar, KCalCore::Incidence::List incidences,
+              const DateRange &window)
+{
+    constexpr int occurrences = 1000;
+    const KDateTime start(window.first.startOfDay(calendar.timeZone()));
+    const KDateTime end(window.last.addDays(1).startOfDay(calendar.timeZone()));
+    bool limitHit = false;
+    const auto expanded =
+        calendar.expandRecurrences(&incidences, start, end, occurrences, &limitHit);
+    if (limitHit && window.first < window.last) {
+        // What was cut off is at the end.
+        const QDate middle = window.first.addDays(window.first.daysTo(window.last) / 2);
+        const QDate later = lastDay(calendar, incidences, {middle.addDays(1), window.last});
+        return later.isValid() ? later : lastDay(calendar, incidences, {window.first, middle});
+    }
+    QDate last;
+    for (const auto &occurrence : expanded) {
+        // The end is exclusive: what ends at midnight does not reach into that day.
+        const QDateTime moment = occurrence.first.dtEnd > occurrence.first.dtStart
+            ? occurrence.first.dtEnd.addMSecs(-1)
+            : occurrence.first.dtStart;
+        last = std::max(last, moment.toTimeZone(calendar.timeZone()).date());
+    }
+    return std::min(last, window.last);
 }
 
 /// A row that holds the text looked for.
@@ -83,37 +115,60 @@ KCalCore::Incidence::List SqliteStorage::search(const QString &text, int limit)
     return found;
 }
 
+bool SqliteStoragePrivate::readShown(const DateRange &range, KCalCore::Incidence::List *found)
+{
+    const auto collect = [found](const ComponentRow &row) {
+        if (row.incidence->type() != KCalCore::IncidenceBase::TypeJournal)
+            found->append(row.incidence);
+        return true;
+    };
+    const bool read = readDays(range, collect)
+        && tables->reader.read(
+            "state = 0 AND uid IN (SELECT uid FROM Components WHERE state = 0 AND span = 2"
+            " AND start < ? AND until > ?)",
+            {range.endKey(), range.firstKey()}, collect);
+    loader.countRead();
+    return read;
+}
+
 QDate SqliteStorage::nextDateWithIncidence(const QDate &from)
 {
     StorageCall call(*d);
     if (!call.ended(d->isOpen()) || !from.isValid())
         return {};
-    const QDate horizon = from.addYears(10);
-    // The next one is mostly near: each window is longer than the one before.
-    int days = 7;
-    for (DateRange window{from, from.addDays(days - 1)}; window.first <= horizon;) {
+    const QDate horizon = from.addYears(horizonYears);
+    int days = firstWindowDays;
+    for (DateRange window{from, from.addDays(days - 1)}; window.isValid();) {
         KCalCore::Incidence::List found;
-        const auto collect = [&found](const ComponentRow &row) {
-            if (row.incidence->type() != KCalCore::IncidenceBase::TypeJournal)
-                found.append(row.incidence);
-            return true;
-        };
-        const bool read = d->readDays(window, collect)
-            && d->tables->reader.read(
-                "state = 0 AND uid IN (SELECT uid FROM Components WHERE state = 0 AND span = 2"
-                " AND start < ? AND until > ?)",
-                {window.endKey(), window.firstKey()}, collect);
-        d->loader.countRead();
-        if (!call.ended(read))
+        if (!call.ended(d->readShown(window, &found)))
             return {};
         ExtendedCalendar calendar(d->calendar->timeZone());
         const QDate day = firstDay(calendar, found, window);
         if (day.isValid())
             return day;
-        days *= 4;
+        days *= windowGrowth;
         window = {window.last.addDays(1), std::min(horizon, window.last.addDays(days))};
-        if (!window.isValid())
-            break;
+    }
+    return {};
+}
+
+QDate SqliteStorage::previousDateWithIncidence(const QDate &from)
+{
+    StorageCall call(*d);
+    if (!call.ended(d->isOpen()) || !from.isValid())
+        return {};
+    const QDate horizon = from.addYears(-horizonYears);
+    int days = firstWindowDays;
+    for (DateRange window{from.addDays(1 - days), from}; window.isValid();) {
+        KCalCore::Incidence::List found;
+        if (!call.ended(d->readShown(window, &found)))
+            return {};
+        ExtendedCalendar calendar(d->calendar->timeZone());
+        const QDate day = lastDay(calendar, found, window);
+        if (day.isValid())
+            return day;
+        days *= windowGrowth;
+        window = {std::max(horizon, window.first.addDays(-days)), window.first.addDays(-1)};
     }
     return {};
 }
