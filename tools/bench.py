@@ -56,8 +56,8 @@ def agenda_figures(programs, samples, count):
            "work": {"peer, KiB": median(1, 1)}}
 
 
-def library_figures(program, samples, filters):
-    with subprocess.Popen([program, samples, *filters], stdout=subprocess.PIPE, text=True) as child:
+def library_figures(program, *words):
+    with subprocess.Popen([program, *words], stdout=subprocess.PIPE, text=True) as child:
         yield from map(json.loads, child.stdout)
     if child.returncode != 0:
         sys.exit(f"{program} failed with code {child.returncode}")
@@ -99,8 +99,10 @@ def print_row(figure):
 def all_figures(build, samples, filters):
     bench = build / "benchmarks/daskel_bench"
     subprocess.run([bench, "--samples", samples], check=True)
-    yield from library_figures(bench, samples, filters)
-    yield from library_figures(build / "benchmarks/toolkit_bench", samples, filters)
+    yield from library_figures(bench, samples, *filters)
+    yield from library_figures(build / "benchmarks/toolkit_bench", samples, *filters)
+    for count in ROUNDS:
+        yield from library_figures(build / "benchmarks/agenda_bench", samples, str(count), *filters)
     programs = build / "app/cli/daskel", build / "benchmarks/list_calendar"
     for count in ROUNDS:
         names = "daskel agenda of 60 days, new process", "peak memory of that process"
