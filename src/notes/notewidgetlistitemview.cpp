@@ -157,7 +157,7 @@ QString NoteWidgetListItemView::titleStyle() const
 
 QString NoteWidgetListItemView::subtitle() const
 {
-    const QString place = note()->model()->location().simplified();
+    QString place = note()->model()->location().simplified();
     if (!details().isCancelled)
         return place;
     const QString cancelled = qtTrId("qtn_caln_cancelled");
