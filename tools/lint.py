@@ -67,7 +67,7 @@ def generate_moc_files(build):
     """Runs moc for every target without compiling any of them."""
     targets = subprocess.run(["ninja", "-C", build, "-t", "targets", "all"],
                              capture_output=True, text=True, check=False).stdout
-    autogen = sorted(set(re.findall(r"^(\w+_autogen): phony", targets, re.MULTILINE)))
+    autogen = sorted(set(re.findall(r"^([\w-]+_autogen): phony", targets, re.MULTILINE)))
     return output_of("ninja", "-C", build, *autogen) if autogen else (True, "")
 
 

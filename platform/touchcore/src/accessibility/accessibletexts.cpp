@@ -93,7 +93,7 @@ QAccessible::Role accessibleRole(const MWidget *widget)
 
 QString accessibleName(const MWidget *widget)
 {
-    const QString given = widget->property("accessibleName").toString();
+    QString given = widget->property("accessibleName").toString();
     if (!given.isEmpty())
         return given;
     if (const auto *label = qobject_cast<const MLabel *>(widget))
@@ -101,7 +101,7 @@ QString accessibleName(const MWidget *widget)
     if (const auto *edit = qobject_cast<const MTextEdit *>(widget))
         return edit->prompt();
     for (const char *property : {"text", "title"}) {
-        const QString text = widget->property(property).toString();
+        QString text = widget->property(property).toString();
         if (!text.isEmpty())
             return text;
     }

@@ -155,7 +155,7 @@ void MWidget::keyPressEvent(QKeyEvent *event)
 
 QVariant MWidget::itemChange(GraphicsItemChange change, const QVariant &value)
 {
-    const QVariant result = QGraphicsWidget::itemChange(change, value);
+    QVariant result = QGraphicsWidget::itemChange(change, value);
     if (change == ItemParentHasChanged) {
         // Qt hands the direction down in the constructor only.
         if (!testAttribute(Qt::WA_SetLayoutDirection))
