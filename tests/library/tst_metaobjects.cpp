@@ -10,6 +10,9 @@
 #include <daskel/dskmphysics2dpanning.h>
 #include <daskel/expandedincidencescache.h>
 #include <daskel/notebookmanager.h>
+#include <daskel/notelistwidget.h>
+#include <daskel/notelistwidgetwrapper.h>
+#include <daskel/notewidget.h>
 #include <daskel/pageswitcher.h>
 #include <daskel/timerservice.h>
 
@@ -24,6 +27,7 @@ static_assert(DbInstance::DbSaveOk == 0 && DbInstance::DbSaveFailed == 1
               && DbInstance::DbSaveStorageError10 == 2);
 static_assert(NotebookManager::NoModifyError == 0 && NotebookManager::ModifyFailed == 1
               && NotebookManager::ModifyStorageError10 == 2);
+static_assert(NoteWidgetModel::EventNote == 1 && NoteWidgetModel::TodoNote == 2);
 
 /// What other programs rely on by number: the order of signals and slots, the values of the
 /// enumerations.
@@ -67,6 +71,21 @@ void MetaObjectsTest::methods_data()
            QStringList{"signal updateChild()", "slot dataUpdated()", "slot configUpdated()",
                        "slot dateChanged()", "slot hourChanged()", "slot minuteChanged()",
                        "slot queuedUpdateChild()", "slot notebooksChanged()"});
+    addRow("NoteListWidget", &NoteListWidget::staticMetaObject,
+           QStringList{"signal noteClicked()", "signal listReloaded()", "slot contentUpdated(int)",
+                       "slot selectAll()", "slot deselectAll()", "slot listStarted()",
+                       "slot listStopped()", "slot viewportPositionChanged(QPointF)",
+                       "slot viewportMouseReleased()", "slot ensureListScrolled()"});
+    addRow("NoteListWidgetWrapper", &NoteListWidgetWrapper::staticMetaObject,
+           QStringList{"slot updateLayout(bool)"});
+    addRow("NoteWidget", &NoteWidget::staticMetaObject,
+           QStringList{"signal noteClicked(QString,KDateTime,KDateTime)",
+                       "signal editNote(QString,KDateTime,KDateTime)",
+                       "signal deleteNote(QString,KDateTime,KDateTime,QString)", "signal clicked()",
+                       "slot retranslateUI()", "slot updateData(QList<const char*>)",
+                       "slot editActionActivated()", "slot deleteActionActivated()",
+                       "slot setCompleted()", "slot setUncompleted()",
+                       "slot viewActionActivated()"});
     addRow("ClickableLabel", &ClickableLabel::staticMetaObject, QStringList{"signal clicked()"});
 }
 
