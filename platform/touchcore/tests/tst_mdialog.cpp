@@ -51,6 +51,7 @@ private Q_SLOTS:
     void finishesOnce();
     void destroysItselfAfterTheAnswer();
     void dimTakesPresses();
+    void answeredDialogDoesNotHoldUp();
     void executes();
     void executesNested();
     void executedDialogMayBeDeleted();
@@ -197,6 +198,35 @@ void TestMDialog::dimTakesPresses()
     QCOMPARE(counter->presses, 0);
     window.tap(QPoint(5, 780));
     QCOMPARE(counter->presses, 1);
+}
+
+void TestMDialog::answeredDialogDoesNotHoldUp()
+{
+    SceneTest window;
+    auto *page = new MApplicationPage;
+    auto *button = new MButton(QStringLiteral("Next"));
+    page->setCentralWidget(button);
+    page->appear(&window);
+    QSignalSpy clicked(button, &MButton::clicked);
+    MMessageBox box(QStringLiteral("Delete?"), yesOrNo);
+    box.appear(&window);
+    const QPoint beside = window.viewPoint(button, {5, 5});
+    window.tap(beside);
+    QCOMPARE(clicked.size(), 0);
+    QVERIFY(!button->hasFocus());
+    QCOMPARE(box.sceneWindowState(), MSceneWindow::Disappeared);
+
+    box.appear(&window);
+    MSceneManager::setAnimationsEnabled(true);
+    window.tap(box.button(MMessageBox::Yes));
+    QCOMPARE(box.sceneWindowState(), MSceneWindow::Disappearing);
+    window.tap(beside);
+    QCOMPARE(clicked.size(), 1);
+
+    // One that comes back takes all again.
+    box.appear(&window);
+    window.tap(beside);
+    QCOMPARE(clicked.size(), 1);
 }
 
 void TestMDialog::executes()

@@ -12,7 +12,16 @@
 
 SceneDim::SceneDim(MSceneWindow *window) : QGraphicsObject(window->parentItem()), m_window(window)
 {
+    setTakingAll(true);
     adaptToParent();
+}
+
+void SceneDim::setTakingAll(bool isTakingAll)
+{
+    m_isTakingAll = isTakingAll;
+    setAcceptedMouseButtons(isTakingAll ? Qt::AllButtons : Qt::NoButton);
+    // Else a press gives the focus to what lies below.
+    setFlag(ItemStopsClickFocusPropagation, isTakingAll);
 }
 
 void SceneDim::adaptToParent()
@@ -39,10 +48,10 @@ void SceneDim::mousePressEvent(QGraphicsSceneMouseEvent *event)
 
 void SceneDim::wheelEvent(QGraphicsSceneWheelEvent *event)
 {
-    event->accept();
+    event->setAccepted(m_isTakingAll);
 }
 
 void SceneDim::contextMenuEvent(QGraphicsSceneContextMenuEvent *event)
 {
-    event->accept();
+    event->setAccepted(m_isTakingAll);
 }

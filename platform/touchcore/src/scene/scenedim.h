@@ -19,6 +19,9 @@ public:
     explicit SceneDim(MSceneWindow *window);
 
     void adaptToParent();
+    /// While the window leaves, all reaches what lies below: who answers a question need not wait
+    /// for it to fade.
+    void setTakingAll(bool isTakingAll);
     QRectF boundingRect() const override;
     void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget) override;
 
@@ -30,6 +33,7 @@ protected:
 private:
     MSceneWindow *m_window;
     QSizeF m_size;
+    bool m_isTakingAll = true;
 };
 
 #endif

@@ -154,6 +154,7 @@ void MSceneManagerPrivate::enter(MSceneWindow *entering, bool isAnimated)
         entering->setFlag(QGraphicsItem::ItemIsPanel);
         if (!entering->d->dim)
             entering->d->dim = new SceneDim(entering);
+        entering->d->dim->setTakingAll(true);
     }
     restack();
     entering->setGeometry(entering->place(root->size()));
@@ -251,6 +252,8 @@ void MSceneManagerPrivate::disappear(MSceneWindow *leaving, bool isAnimated)
     }
     const QPointer<MSceneWindow> guard(leaving);
     d->state = MSceneWindow::Disappearing;
+    if (d->dim)
+        d->dim->setTakingAll(false);
     history.removeAll(leaving);
     forgotten.removeAll(leaving);
     if (d->isDismissed && d->layer == MSceneWindow::PageLayer)
