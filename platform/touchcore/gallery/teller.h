@@ -11,7 +11,8 @@ class MPannableViewport;
 class MWindow;
 
 /// Writes to standard output what the person sees now, a line for each change, for a script that
-/// uses the gallery: "top <class> <title>", "position <pixels>", "orientation <name>".
+/// uses the gallery: "top <class> <title>", "position <pixels>", "orientation <name>",
+/// "place <x> <y> <control>", "focus <control>", and of a field "focus <control>: <text>".
 class Teller : public QObject
 {
     Q_OBJECT
@@ -26,10 +27,14 @@ private:
     void say(QString *last, const QString &line);
     QString topLine() const;
     QString positionLine() const;
+    QString placeLines() const;
+    QString focusLine() const;
 
     MWindow *m_window;
     QString m_top;
     QString m_position;
+    QString m_places;
+    QString m_focus;
     QString m_orientation;
 };
 
