@@ -10,9 +10,20 @@
 
 namespace
 {
-QString dayAndMonth(const QDate &day)
+/// In the order and with the points that are usual, whatever fields \a skeleton (Unicode TS 35)
+/// names.
+QString formatted(const QDate &day, const char *skeleton)
 {
-    return DaskelLocale::formatDateTime(day.startOfDay(), "%d %b");
+    const MLocale &locale = DaskelLocale::systemLocale();
+    // Each day has a noon.
+    return locale.formatDateTimeICU(QDateTime(day, QTime(12, 0)),
+                                    locale.icuPatternFor(QLatin1String(skeleton)));
+}
+
+/// Of a year that is not \a now's; else empty.
+QString otherYear(const QDate &day, const QDateTime &now)
+{
+    return day.year() == now.date().year() ? QString() : formatted(day, "y");
 }
 
 /// The last day on which something that ends at \a end is still there.
@@ -56,11 +67,20 @@ NoteTimes todoTimes(const NoteWidgetModel &model, const QDateTime &now)
     const QDateTime due = model.allDay() ? model.dueDate() : model.dueDate().toLocalTime();
     const bool isToday = due.date() == now.date();
     const bool isPast = model.allDay() ? due.date() < now.date() : due < now;
-    return {isToday ? qtTrId("qtn_comm_today") : dayAndMonth(due.date()),
-            model.allDay() ? QString() : DaskelLocale::formatShortTime(due),
-            isPast && !model.completed()};
+    NoteTimes times;
+    times.first = isToday ? qtTrId("qtn_comm_today") : dayAndMonth(due.date());
+    times.second = otherYear(due.date(), now);
+    if (times.second.isEmpty() && !model.allDay())
+        times.second = DaskelLocale::formatShortTime(due);
+    times.isOverdue = isPast && !model.completed();
+    return times;
 }
 } // namespace
+
+QString dayAndMonth(const QDate &day)
+{
+    return formatted(day, "MMMd");
+}
 
 QString endText(const QString &end)
 {
@@ -77,5 +97,6 @@ NoteTimes noteTimes(const NoteWidgetModel &model, const NoteDetails &details, co
     case NoteWidgetModel::JournalNote:
         break;
     }
-    return {model.startTime().isValid() ? dayAndMonth(model.startTime().date()) : QString(), {}};
+    const QDate day = model.startTime().date();
+    return day.isValid() ? NoteTimes{dayAndMonth(day), otherYear(day, now)} : NoteTimes();
 }

@@ -19,6 +19,8 @@ struct NoteTimes {
 
 /// \a now: for what is due today and what is overdue; local time.
 NoteTimes noteTimes(const NoteWidgetModel &model, const NoteDetails &details, const QDateTime &now);
+/// A day without its year, such as "13 Mar".
+QString dayAndMonth(const QDate &day);
 /// How an end stands below a start.
 QString endText(const QString &end);
 

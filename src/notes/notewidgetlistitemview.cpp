@@ -23,6 +23,31 @@ QGraphicsLinearLayout *newLayout(Qt::Orientation orientation, QGraphicsLayoutIte
     return layout;
 }
 
+/// The widest that stands in a column of times, rounded up: all rows begin their titles at the same
+/// place, whatever they show.
+qreal widestTime(const QFont &font)
+{
+    struct Measured {
+        QFont font;
+        QString evening;
+        QString allDay;
+        qreal width = 0;
+    };
+    static Measured last;
+    const QDateTime morning(QDate(2000, 1, 22), QTime(10, 0));
+    const QString evening = DaskelLocale::formatShortTime(morning.addSecs(12 * 3600));
+    const QString allDay = qtTrId("qtn_caln_all_day");
+    if (last.width > 0 && last.font == font && last.evening == evening && last.allDay == allDay)
+        return last.width;
+    QStringList texts{endText(evening), endText(DaskelLocale::formatShortTime(morning)), allDay};
+    for (int month = 0; month < 12; ++month)
+        texts << endText(dayAndMonth(morning.date().addMonths(month)));
+    last = {font, evening, allDay, 0};
+    for (const QString &text : qAsConst(texts))
+        last.width = qMax<qreal>(last.width, qCeil(QFontMetricsF(font).horizontalAdvance(text)));
+    return last.width;
+}
+
 /// Some labels in lines; one without a text takes no room.
 class TextLines
 {
@@ -139,12 +164,7 @@ void NoteWidgetListItemView::showNote()
 
 qreal NoteWidgetListItemView::timeColumnWidth() const
 {
-    // The same for all rows, whatever they show.
-    static const QDateTime lateHour(QDate(2000, 1, 1), QTime(22, 0));
-    const QFontMetricsF metrics(style()->timeFont());
-    const qreal end = metrics.horizontalAdvance(endText(DaskelLocale::formatShortTime(lateHour)));
-    const qreal allDay = metrics.horizontalAdvance(qtTrId("qtn_caln_all_day"));
-    return qCeil(qMax<qreal>(style()->timeColumnWidth(), qMax(end, allDay)));
+    return qMax<qreal>(style()->timeColumnWidth(), widestTime(style()->timeFont()));
 }
 
 QString NoteWidgetListItemView::titleStyle() const

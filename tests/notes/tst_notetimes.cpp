@@ -115,12 +115,14 @@ void TestNoteTimes::ofTodos_data()
     addColumns<QString, bool, QString>("due", "isDone", "said");
     addRow("without a date", QString(), false, QStringLiteral("|"));
     addRow("today", QStringLiteral("2011-03-10"), false, QStringLiteral("Today|"));
-    addRow("yesterday", QStringLiteral("2011-03-09"), false, QStringLiteral("09 Mar||overdue"));
+    addRow("yesterday", QStringLiteral("2011-03-09"), false, QStringLiteral("9 Mar||overdue"));
     addRow("later today", QStringLiteral("2011-03-10T18:00"), false, QStringLiteral("Today|18:00"));
     addRow("this morning", QStringLiteral("2011-03-10T09:00"), false,
            QStringLiteral("Today|09:00|overdue"));
     addRow("now", QStringLiteral("2011-03-10T12:00"), false, QStringLiteral("Today|12:00"));
-    addRow("yesterday, and done", QStringLiteral("2011-03-09"), true, QStringLiteral("09 Mar|"));
+    addRow("last year", QStringLiteral("2010-12-31"), false, QStringLiteral("31 Dec|2010|overdue"));
+    addRow("next year", QStringLiteral("2012-01-01T18:00"), false, QStringLiteral("1 Jan|2012"));
+    addRow("yesterday, and done", QStringLiteral("2011-03-09"), true, QStringLiteral("9 Mar|"));
 }
 
 void TestNoteTimes::ofTodos()
