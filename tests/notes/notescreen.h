@@ -23,7 +23,12 @@ public:
         viewport->setPhysics(new DskMPhysics2DPanning);
         physics()->advance(0);
     }
-    ~NoteScreen() { delete viewport; }
+    ~NoteScreen()
+    {
+        if (!list->parentItem())
+            delete list;
+        delete viewport;
+    }
 
     /// Puts \a content into the viewport, the list itself when it is null, and shows \a first.
     void show(const QString &first, QGraphicsWidget *content = nullptr)
