@@ -116,9 +116,10 @@ void NoteWidgetView::drawMarks(QPainter *painter) const
 {
     const QRect rect = controller()->rect().toRect();
     const QSize size = style()->alarmImageSize().toSize();
+    const int top = qMin(style()->alarmImageMarginTop(), (rect.height() - size.height()) / 2);
     int right = rect.width() - style()->alarmImageMarginRight();
     for (auto mark = m_marks.crbegin(); mark != m_marks.crend(); ++mark) {
-        const QRect leftToRight(QPoint(right - size.width(), style()->alarmImageMarginTop()), size);
+        const QRect leftToRight(QPoint(right - size.width(), top), size);
         MScalableImage(*mark).draw(
             QStyle::visualRect(controller()->layoutDirection(), rect, leftToRight), painter,
             style()->markColor(), controller()->layoutDirection());
@@ -141,19 +142,22 @@ void NoteWidgetView::drawTexts(QPainter *painter) const
                  {time.trimmed(), style()->timeFont(), style()->timeColor()},
                  {place, style()->locationFont(), style()->locationColor()}};
     const QRect rect = controller()->rect().toRect();
-    QRect line(int(stripeRoom()), style()->paddingTop(),
-               rect.width() - int(stripeRoom() + marksRoom()), 0);
+    const int top = qMin(style()->paddingTop(),
+                         (rect.height() - QFontMetrics(style()->titleFont()).height()) / 2);
+    QRect line(int(stripeRoom()), top, rect.width() - int(stripeRoom() + marksRoom()), 0);
     for (const auto &[text, font, color] : lines) {
         const QFontMetrics metrics(font);
         line.setHeight(metrics.height());
-        const bool isFirst = line.top() == style()->paddingTop();
-        if (text.isEmpty() || (!isFirst && line.bottom() > rect.height()))
+        const bool hasRoom = line.top() == top || line.bottom() <= rect.bottom();
+        if (text.isEmpty() || !hasRoom)
             continue;
         painter->setFont(font);
         painter->setPen(color);
+        // The row's direction aligns, the text's own direction orders its words.
+        painter->setLayoutDirection(text.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
         painter->drawText(QStyle::visualRect(direction, rect, line),
                           int(QStyle::visualAlignment(direction, Qt::AlignLeft | Qt::AlignVCenter))
-                              | Qt::TextSingleLine,
+                              | Qt::AlignAbsolute | Qt::TextSingleLine,
                           metrics.elidedText(text, Qt::ElideRight, line.width()));
         line.moveTop(line.bottom() + 1);
     }
