@@ -49,6 +49,7 @@ const QVector<GalleryPage> &galleryPages()
         {"header", "Page header", makeHeaderPage, nullptr},
         {"events", "Events", makeEventsPage, nullptr},
         {"todos", "To-dos", makeTodosPage, nullptr},
+        {"narrow-notes", "Narrow notes", makeNarrowNotesPage, nullptr},
         {"delete", "Deleting", makeEventsPage, openDeleteQuestion},
         {"states", "States", makeStatesPage, nullptr},
         {"question", "Question", makeHeaderPage, openPlainQuestion},

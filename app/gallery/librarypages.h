@@ -9,6 +9,7 @@ class QGraphicsWidget;
 
 QGraphicsWidget *makeEventsPage();
 QGraphicsWidget *makeHeaderPage();
+QGraphicsWidget *makeNarrowNotesPage();
 QGraphicsWidget *makeStatesPage();
 QGraphicsWidget *makeTodosPage();
 

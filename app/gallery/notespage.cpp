@@ -9,6 +9,7 @@
 #include <daskel/notedeletion.h>
 #include <daskel/notelistwidget.h>
 #include <daskel/noteloader.h>
+#include <daskel/notewidget.h>
 #include <kcalcompat/clock.h>
 #include <mkcal/sqlitestorage.h>
 #include <touchcore/mwindow.h>
@@ -21,6 +22,7 @@
 #include <QTemporaryDir>
 
 #include <algorithm>
+#include <pagebuilder.h>
 
 namespace
 {
@@ -61,7 +63,9 @@ public:
     KCalCore::Event::Ptr allDay(const QString &title, int firstDay, int days)
     {
         auto made = event(title, at(0, 0, firstDay), at(0, 0, firstDay + days));
+        made->startUpdates();
         made->setAllDay(true);
+        made->endUpdates();
         return made;
     }
     KCalCore::Todo::Ptr todo(const QString &title, const QDateTime &due)
@@ -232,12 +236,17 @@ Notes &theNotes()
     static Notes notes;
     return notes;
 }
+
+const QVector<Row> &theEvents()
+{
+    static const QVector<Row> rows = eventRows(theNotes());
+    return rows;
+}
 } // namespace
 
 QGraphicsWidget *makeEventsPage()
 {
-    static const QVector<Row> rows = eventRows(theNotes());
-    return new RowsList(rows);
+    return new RowsList(theEvents());
 }
 
 void openDeleteQuestion(MWindow *window)
@@ -245,6 +254,26 @@ void openDeleteQuestion(MWindow *window)
     auto *deletion = new NoteDeletion(window, window);
     const auto lesson = theNotes().named(QStringLiteral("Swimming lesson"));
     deletion->ask(lesson->uid(), {}, KDateTime(lesson->dtStart()));
+}
+
+QGraphicsWidget *makeNarrowNotesPage()
+{
+    const QVector<Row> &rows = theEvents();
+    PageBuilder builder;
+    builder.addCaption(QStringLiteral("Squeezed"));
+    for (const Row &row : rows) {
+        auto *note = new EventNoteWidget(row.incidence, nullptr);
+        note->setSqueezed(true);
+        builder.add(note);
+    }
+    builder.addCaption(QStringLiteral("Drawn in one piece, as high as there is room"));
+    for (const int height : {24, 56, 80}) {
+        auto *note = new NoteWidget(rows.at(4).incidence, nullptr);
+        note->setMinimumHeight(height);
+        note->setMaximumHeight(height);
+        builder.add(note);
+    }
+    return builder.page();
 }
 
 QGraphicsWidget *makeTodosPage()
