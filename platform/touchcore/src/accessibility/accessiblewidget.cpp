@@ -165,7 +165,8 @@ QRect AccessibleWidget::onScreen(const QRectF &part) const
     if (!view)
         return {};
     const QRect inView = view->mapFromScene(widget()->mapRectToScene(part)).boundingRect();
-    return {view->viewport()->mapToGlobal(inView.topLeft()), inView.size()};
+    // A polygon of whole pixels counts its last ones, too.
+    return {view->viewport()->mapToGlobal(inView.topLeft()), inView.size() - QSize(1, 1)};
 }
 
 QStringList AccessibleWidget::actionNames() const
