@@ -40,6 +40,10 @@ public:
     void setItemStyleName(const QString &styleName);
     QString itemStyleName() const;
 
+    /// Who is told when a note of the list is to be deleted: NoteWidget::setDeleteNoteReceiver() of
+    /// every row. To be set before the first rows are shown.
+    void setDeleteNoteReceiver(QObject *receiver, const char *slot);
+
     /// How many notes the loader has handed over.
     int noteCount() const;
 

@@ -62,6 +62,8 @@ MWidget *NoteCellCreator::createCell(const QModelIndex &index, MWidgetRecycler &
     if (!cell) {
         cell = noteClass.make(m_list);
         QObject::connect(cell, &NoteWidget::clicked, m_list, &NoteListWidget::noteClicked);
+        if (m_deleteReceiver)
+            cell->setDeleteNoteReceiver(m_deleteReceiver, m_deleteSlot, Qt::AutoConnection);
     }
     updateCell(index, cell);
     return cell;

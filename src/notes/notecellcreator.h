@@ -7,6 +7,7 @@
 #include <touchcore/mcellcreator.h>
 
 #include <QSizeF>
+#include <QPointer>
 #include <QString>
 
 class NoteListWidget;
@@ -21,6 +22,13 @@ public:
     QString itemStyleName() const { return m_itemStyleName; }
     void setItemStyleName(const QString &styleName) { m_itemStyleName = styleName; }
 
+    /// Every row that is made from now on tells \a receiver.
+    void setDeleteNoteReceiver(QObject *receiver, const char *slot)
+    {
+        m_deleteReceiver = receiver;
+        m_deleteSlot = slot;
+    }
+
     MWidget *createCell(const QModelIndex &index, MWidgetRecycler &recycler) const override;
     void updateCell(const QModelIndex &index, MWidget *cell) const override;
     /// That of a row which stands for all, measured once.
@@ -29,6 +37,8 @@ public:
 private:
     NoteListWidget *m_list;
     QString m_itemStyleName;
+    QPointer<QObject> m_deleteReceiver;
+    QByteArray m_deleteSlot;
     mutable QSizeF m_cellSize;
 };
 

@@ -106,6 +106,11 @@ QString NoteListWidget::itemStyleName() const
     return d->cellCreator->itemStyleName();
 }
 
+void NoteListWidget::setDeleteNoteReceiver(QObject *receiver, const char *slot)
+{
+    d->cellCreator->setDeleteNoteReceiver(receiver, slot);
+}
+
 int NoteListWidget::noteCount() const
 {
     const NoteWidgetItemModel *model = d->noteModel();

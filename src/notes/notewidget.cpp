@@ -325,6 +325,9 @@ void NoteWidget::mouseReleaseEvent(QGraphicsSceneMouseEvent *event)
 
 void NoteWidget::contextMenuEvent(QGraphicsSceneContextMenuEvent *event)
 {
+    // Where nobody edits, the entry would lead nowhere.
+    if (d->edit)
+        d->edit->setVisible(receivers(SIGNAL(editNote(QString, KDateTime, KDateTime))) > 0);
     MWidgetController::contextMenuEvent(event);
     model()->setPressed(false);
 }

@@ -38,6 +38,16 @@ QString Dates::monthLabel(const QDate &day)
     return text(day, "yMMMM");
 }
 
+QString Dates::fullDayText(const QDate &day)
+{
+    return text(day, "yMMMMEEEEd");
+}
+
+QString Dates::weekdayName(const QDate &day)
+{
+    return text(day, "cccc");
+}
+
 QString Dates::dateText(const QDate &day)
 {
     return text(day, "yMMMMd");

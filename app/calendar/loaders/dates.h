@@ -16,6 +16,10 @@ QDate today();
 QString dayLabel(const QDate &day);
 /// "November 2026"
 QString monthLabel(const QDate &day);
+/// "Saturday 21 November 2026"
+QString fullDayText(const QDate &day);
+/// "Saturday"
+QString weekdayName(const QDate &day);
 /// "21 November 2026"
 QString dateText(const QDate &day);
 } // namespace Dates

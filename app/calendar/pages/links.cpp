@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: 2026 The daskel authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "links.h"
+
+#include <daskel/daskelutility.h>
+
+#include <QDesktopServices>
+#include <QTextDocumentFragment>
+#include <QUrl>
+
+void Links::open(const QString &address)
+{
+    const QUrl url(address);
+    const QString scheme = url.scheme();
+    const bool isWebPage = scheme == QLatin1String("http") || scheme == QLatin1String("https");
+    if (isWebPage || daskelUtilityAskYesNo(qtTrId("qtn_dcal_open_question").arg(address)))
+        QDesktopServices::openUrl(url);
+}
+
+QString Links::mapAddress(const KCalCore::Incidence &incidence)
+{
+    if (incidence.hasGeo()) {
+        return QStringLiteral("geo:%1,%2")
+            .arg(double(incidence.geoLatitude()))
+            .arg(double(incidence.geoLongitude()));
+    }
+    return QStringLiteral("geo:0,0?q=")
+        + QString::fromLatin1(QUrl::toPercentEncoding(incidence.location()));
+}
+
+QString Links::attachmentAddress(const KCalCore::Attachment &attachment)
+{
+    return attachment.isUri() ? attachment.uri() : QString();
+}
+
+QString Links::plainDescription(const KCalCore::Incidence &incidence)
+{
+    return incidence.descriptionIsRich()
+        ? QTextDocumentFragment::fromHtml(incidence.description()).toPlainText()
+        : incidence.description();
+}

@@ -1,0 +1,26 @@
+// SPDX-FileCopyrightText: 2026 The daskel authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#ifndef LINKS_H
+#define LINKS_H
+
+#include <KCalendarCore/Attachment>
+#include <KCalendarCore/Incidence>
+
+#include <QString>
+
+/// What leads out of a note. Nothing is loaded by showing it.
+namespace Links
+{
+/// Has the desktop open \a address; asks first unless it is a page of the web. Waits for the
+/// answer.
+void open(const QString &address);
+/// Of the place of a note (RFC 5870).
+QString mapAddress(const KCalCore::Incidence &incidence);
+/// Of an attachment; empty for one that lies in the note itself.
+QString attachmentAddress(const KCalCore::Attachment &attachment);
+/// The description without the marks of rich text.
+QString plainDescription(const KCalCore::Incidence &incidence);
+} // namespace Links
+
+#endif
