@@ -19,6 +19,7 @@ FIRST_DAY, DAYS = "2026-06-15", "60"
 ROUNDS = {10000: 7, 100000: 3}
 AGENDA_AIMS = {10000: 5, 100000: 10}
 ENVIRONMENT = {**os.environ, "TZ": "Europe/Helsinki"}
+START_FIGURE = "start of the application until its agenda is painted"
 COLUMNS = ("figure", "n", "ours", "floor", "ratio", "aim", "ok")
 ROW = "{:44} {:>8} {:>10} {:>10} {:>8} {:>8}  {}"
 
@@ -54,6 +55,22 @@ def agenda_figures(programs, samples, count):
     yield {"figure": "peak memory of that process", "n": count, "unit": "KiB",
            "ours": median(0, 1), "floor": median(2, 1),
            "work": {"peer, KiB": median(1, 1)}}
+
+
+def start_figures(program, samples, count):
+    """A start of the application until its agenda is painted: beside an empty window painted and the
+    same days read and unrolled."""
+    database = samples / str(count) / "calendar.db"
+    ours, floor = (program, "agenda", database), (program, "bare", database)
+    process(*ours)
+    rounds = [(process(*ours), process(*floor)) for _ in range(ROUNDS[count])]
+
+    def median(side, value):
+        return statistics.median(results[side][value] for results in rounds)
+
+    yield {"figure": START_FIGURE, "n": count, "unit": "µs", "ours": median(0, 0),
+           "floor": median(1, 0), "atMost": 1.5,
+           "work": {"peak memory, KiB": median(0, 1), "peak of the floor, KiB": median(1, 1)}}
 
 
 def library_figures(program, *words):
@@ -96,6 +113,10 @@ def print_row(figure):
           flush=True)
 
 
+def wanted(name, filters):
+    return not filters or any(word.lower() in name.lower() for word in filters)
+
+
 def all_figures(build, samples, filters):
     bench = build / "benchmarks/daskel_bench"
     subprocess.run([bench, "--samples", samples], check=True)
@@ -105,8 +126,10 @@ def all_figures(build, samples, filters):
         yield from library_figures(build / "benchmarks/agenda_bench", samples, str(count), *filters)
     programs = build / "app/cli/daskel", build / "benchmarks/list_calendar"
     for count in ROUNDS:
+        if wanted(START_FIGURE, filters):
+            yield from start_figures(build / "benchmarks/start_bench", samples, count)
         names = "daskel agenda of 60 days, new process", "peak memory of that process"
-        if not filters or any(word.lower() in name.lower() for word in filters for name in names):
+        if any(wanted(name, filters) for name in names):
             yield from agenda_figures(programs, samples, count)
 
 
