@@ -91,6 +91,8 @@ protected:
     void contextMenuEvent(QGraphicsSceneContextMenuEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void cancelEvent() override;
+    /// The menu offers to edit once somebody is connected to editNote().
+    void connectNotify(const QMetaMethod &signal) override;
 
 private:
     std::unique_ptr<NoteWidgetPrivate> d;

@@ -18,6 +18,7 @@
 #include <QGraphicsSceneContextMenuEvent>
 #include <QGraphicsSceneMouseEvent>
 #include <QKeyEvent>
+#include <QMetaMethod>
 
 namespace
 {
@@ -86,8 +87,10 @@ void NoteWidgetPrivate::rebuildMenu()
         offer(markDone, "qtn_caln_mark_compl", &NoteWidget::setCompleted);
     else if (model->type() == NoteWidgetModel::TodoNote)
         offer(markNotDone, "qtn_caln_mark_uncompl", &NoteWidget::setUncompleted);
-    if (model->type() == NoteWidgetModel::EventNote && !model->readOnly())
+    if (model->type() == NoteWidgetModel::EventNote && !model->readOnly()) {
         offer(edit, "qtn_comm_edit", &NoteWidget::editActionActivated);
+        edit->setVisible(hasEditor);
+    }
     offer(remove, "qtn_comm_command_delete", &NoteWidget::deleteActionActivated);
 }
 
@@ -325,11 +328,17 @@ void NoteWidget::mouseReleaseEvent(QGraphicsSceneMouseEvent *event)
 
 void NoteWidget::contextMenuEvent(QGraphicsSceneContextMenuEvent *event)
 {
-    // Where nobody edits, the entry would lead nowhere.
-    if (d->edit)
-        d->edit->setVisible(receivers(SIGNAL(editNote(QString, KDateTime, KDateTime))) > 0);
     MWidgetController::contextMenuEvent(event);
     model()->setPressed(false);
+}
+
+void NoteWidget::connectNotify(const QMetaMethod &signal)
+{
+    if (signal != QMetaMethod::fromSignal(&NoteWidget::editNote))
+        return;
+    d->hasEditor = true;
+    if (d->edit)
+        d->edit->setVisible(true);
 }
 
 void NoteWidget::keyPressEvent(QKeyEvent *event)

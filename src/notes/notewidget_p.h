@@ -26,6 +26,8 @@ public:
     QAction *markDone = nullptr;
     QAction *markNotDone = nullptr;
     QAction *edit = nullptr;
+    /// Where nobody hears of it, the entry would lead nowhere and is not shown.
+    bool hasEditor = false;
     QAction *remove = nullptr;
 };
 

@@ -213,6 +213,13 @@ void TestNoteWidget::offersAMenu()
     QTEST(menuOf(note), "menu");
     note.setNote(incidence);
     QTEST(menuOf(note), "menu");
+
+    // Until somebody edits, nobody is asked whether to.
+    for (const QAction *action : note.actions())
+        QCOMPARE(action->isVisible(), action->text() != QLatin1String("Edit"));
+    const QSignalSpy editor(&note, &NoteWidget::editNote);
+    for (const QAction *action : note.actions())
+        QVERIFY(action->isVisible());
 }
 
 void TestNoteWidget::ignoresActionsWithoutANote()
