@@ -113,9 +113,9 @@ SPDX-License-Identifier: LGPL-2.1-or-later
             <numerusform>لم يُستورد أي عنصر.</numerusform>
             <numerusform>استُورد عنصر واحد.</numerusform>
             <numerusform>استُورد عنصران.</numerusform>
-            <numerusform>استُوردت %n عناصر.</numerusform>
-            <numerusform>استُورد %n عنصرًا.</numerusform>
-            <numerusform>استُورد %n عنصر.</numerusform>
+            <numerusform>استُوردت %Ln عناصر.</numerusform>
+            <numerusform>استُورد %Ln عنصرًا.</numerusform>
+            <numerusform>استُورد %Ln عنصر.</numerusform>
         </translation>
     </message>
     <message id="qtn_dcal_import_skipped" numerus="yes">
@@ -125,9 +125,9 @@ SPDX-License-Identifier: LGPL-2.1-or-later
             <numerusform>قُرئت كلها.</numerusform>
             <numerusform>تعذرت قراءة عنصر واحد.</numerusform>
             <numerusform>تعذرت قراءة عنصرين.</numerusform>
-            <numerusform>تعذرت قراءة %n عناصر.</numerusform>
-            <numerusform>تعذرت قراءة %n عنصرًا.</numerusform>
-            <numerusform>تعذرت قراءة %n عنصر.</numerusform>
+            <numerusform>تعذرت قراءة %Ln عناصر.</numerusform>
+            <numerusform>تعذرت قراءة %Ln عنصرًا.</numerusform>
+            <numerusform>تعذرت قراءة %Ln عنصر.</numerusform>
         </translation>
     </message>
     <message id="qtn_dcal_import_unreadable">
@@ -222,9 +222,9 @@ SPDX-License-Identifier: LGPL-2.1-or-later
             <numerusform>يتكرر كل دقيقة</numerusform>
             <numerusform>يتكرر كل دقيقة</numerusform>
             <numerusform>يتكرر كل دقيقتين</numerusform>
-            <numerusform>يتكرر كل %n دقائق</numerusform>
-            <numerusform>يتكرر كل %n دقيقة</numerusform>
-            <numerusform>يتكرر كل %n دقيقة</numerusform>
+            <numerusform>يتكرر كل %Ln دقائق</numerusform>
+            <numerusform>يتكرر كل %Ln دقيقة</numerusform>
+            <numerusform>يتكرر كل %Ln دقيقة</numerusform>
         </translation>
     </message>
     <message id="qtn_dcal_every_hours" numerus="yes">
@@ -234,9 +234,9 @@ SPDX-License-Identifier: LGPL-2.1-or-later
             <numerusform>يتكرر كل ساعة</numerusform>
             <numerusform>يتكرر كل ساعة</numerusform>
             <numerusform>يتكرر كل ساعتين</numerusform>
-            <numerusform>يتكرر كل %n ساعات</numerusform>
-            <numerusform>يتكرر كل %n ساعة</numerusform>
-            <numerusform>يتكرر كل %n ساعة</numerusform>
+            <numerusform>يتكرر كل %Ln ساعات</numerusform>
+            <numerusform>يتكرر كل %Ln ساعة</numerusform>
+            <numerusform>يتكرر كل %Ln ساعة</numerusform>
         </translation>
     </message>
     <message id="qtn_dcal_every_days" numerus="yes">
@@ -246,9 +246,9 @@ SPDX-License-Identifier: LGPL-2.1-or-later
             <numerusform>يتكرر كل يوم</numerusform>
             <numerusform>يتكرر كل يوم</numerusform>
             <numerusform>يتكرر كل يومين</numerusform>
-            <numerusform>يتكرر كل %n أيام</numerusform>
-            <numerusform>يتكرر كل %n يومًا</numerusform>
-            <numerusform>يتكرر كل %n يوم</numerusform>
+            <numerusform>يتكرر كل %Ln أيام</numerusform>
+            <numerusform>يتكرر كل %Ln يومًا</numerusform>
+            <numerusform>يتكرر كل %Ln يوم</numerusform>
         </translation>
     </message>
     <message id="qtn_dcal_every_weeks" numerus="yes">
@@ -258,9 +258,9 @@ SPDX-License-Identifier: LGPL-2.1-or-later
             <numerusform>يتكرر كل أسبوع</numerusform>
             <numerusform>يتكرر كل أسبوع</numerusform>
             <numerusform>يتكرر كل أسبوعين</numerusform>
-            <numerusform>يتكرر كل %n أسابيع</numerusform>
-            <numerusform>يتكرر كل %n أسبوعًا</numerusform>
-            <numerusform>يتكرر كل %n أسبوع</numerusform>
+            <numerusform>يتكرر كل %Ln أسابيع</numerusform>
+            <numerusform>يتكرر كل %Ln أسبوعًا</numerusform>
+            <numerusform>يتكرر كل %Ln أسبوع</numerusform>
         </translation>
     </message>
     <message id="qtn_dcal_every_months" numerus="yes">
@@ -270,9 +270,9 @@ SPDX-License-Identifier: LGPL-2.1-or-later
             <numerusform>يتكرر كل شهر</numerusform>
             <numerusform>يتكرر كل شهر</numerusform>
             <numerusform>يتكرر كل شهرين</numerusform>
-            <numerusform>يتكرر كل %n أشهر</numerusform>
-            <numerusform>يتكرر كل %n شهرًا</numerusform>
-            <numerusform>يتكرر كل %n شهر</numerusform>
+            <numerusform>يتكرر كل %Ln أشهر</numerusform>
+            <numerusform>يتكرر كل %Ln شهرًا</numerusform>
+            <numerusform>يتكرر كل %Ln شهر</numerusform>
         </translation>
     </message>
     <message id="qtn_dcal_every_years" numerus="yes">
@@ -282,9 +282,9 @@ SPDX-License-Identifier: LGPL-2.1-or-later
             <numerusform>يتكرر كل سنة</numerusform>
             <numerusform>يتكرر كل سنة</numerusform>
             <numerusform>يتكرر كل سنتين</numerusform>
-            <numerusform>يتكرر كل %n سنوات</numerusform>
-            <numerusform>يتكرر كل %n سنة</numerusform>
-            <numerusform>يتكرر كل %n سنة</numerusform>
+            <numerusform>يتكرر كل %Ln سنوات</numerusform>
+            <numerusform>يتكرر كل %Ln سنة</numerusform>
+            <numerusform>يتكرر كل %Ln سنة</numerusform>
         </translation>
     </message>
     <message id="qtn_dcal_repeats_on">
@@ -304,9 +304,9 @@ SPDX-License-Identifier: LGPL-2.1-or-later
             <numerusform>%1</numerusform>
             <numerusform>%1، مرة واحدة</numerusform>
             <numerusform>%1، مرتين</numerusform>
-            <numerusform>%1، %n مرات</numerusform>
-            <numerusform>%1، %n مرة</numerusform>
-            <numerusform>%1، %n مرة</numerusform>
+            <numerusform>%1، %Ln مرات</numerusform>
+            <numerusform>%1، %Ln مرة</numerusform>
+            <numerusform>%1، %Ln مرة</numerusform>
         </translation>
     </message>
     <message id="qtn_dcal_list_separator">
@@ -326,9 +326,9 @@ SPDX-License-Identifier: LGPL-2.1-or-later
             <numerusform>عند البداية</numerusform>
             <numerusform>قبل دقيقة</numerusform>
             <numerusform>قبل دقيقتين</numerusform>
-            <numerusform>قبل %n دقائق</numerusform>
-            <numerusform>قبل %n دقيقة</numerusform>
-            <numerusform>قبل %n دقيقة</numerusform>
+            <numerusform>قبل %Ln دقائق</numerusform>
+            <numerusform>قبل %Ln دقيقة</numerusform>
+            <numerusform>قبل %Ln دقيقة</numerusform>
         </translation>
     </message>
     <message id="qtn_dcal_hours_before" numerus="yes">
@@ -338,9 +338,9 @@ SPDX-License-Identifier: LGPL-2.1-or-later
             <numerusform>عند البداية</numerusform>
             <numerusform>قبل ساعة</numerusform>
             <numerusform>قبل ساعتين</numerusform>
-            <numerusform>قبل %n ساعات</numerusform>
-            <numerusform>قبل %n ساعة</numerusform>
-            <numerusform>قبل %n ساعة</numerusform>
+            <numerusform>قبل %Ln ساعات</numerusform>
+            <numerusform>قبل %Ln ساعة</numerusform>
+            <numerusform>قبل %Ln ساعة</numerusform>
         </translation>
     </message>
     <message id="qtn_dcal_days_before" numerus="yes">
@@ -350,9 +350,9 @@ SPDX-License-Identifier: LGPL-2.1-or-later
             <numerusform>عند البداية</numerusform>
             <numerusform>قبل يوم</numerusform>
             <numerusform>قبل يومين</numerusform>
-            <numerusform>قبل %n أيام</numerusform>
-            <numerusform>قبل %n يومًا</numerusform>
-            <numerusform>قبل %n يوم</numerusform>
+            <numerusform>قبل %Ln أيام</numerusform>
+            <numerusform>قبل %Ln يومًا</numerusform>
+            <numerusform>قبل %Ln يوم</numerusform>
         </translation>
     </message>
     <message id="qtn_dcal_minutes_after" numerus="yes">
@@ -362,9 +362,9 @@ SPDX-License-Identifier: LGPL-2.1-or-later
             <numerusform>عند البداية</numerusform>
             <numerusform>بعد دقيقة</numerusform>
             <numerusform>بعد دقيقتين</numerusform>
-            <numerusform>بعد %n دقائق</numerusform>
-            <numerusform>بعد %n دقيقة</numerusform>
-            <numerusform>بعد %n دقيقة</numerusform>
+            <numerusform>بعد %Ln دقائق</numerusform>
+            <numerusform>بعد %Ln دقيقة</numerusform>
+            <numerusform>بعد %Ln دقيقة</numerusform>
         </translation>
     </message>
     <message id="qtn_dcal_hours_after" numerus="yes">
@@ -374,9 +374,9 @@ SPDX-License-Identifier: LGPL-2.1-or-later
             <numerusform>عند البداية</numerusform>
             <numerusform>بعد ساعة</numerusform>
             <numerusform>بعد ساعتين</numerusform>
-            <numerusform>بعد %n ساعات</numerusform>
-            <numerusform>بعد %n ساعة</numerusform>
-            <numerusform>بعد %n ساعة</numerusform>
+            <numerusform>بعد %Ln ساعات</numerusform>
+            <numerusform>بعد %Ln ساعة</numerusform>
+            <numerusform>بعد %Ln ساعة</numerusform>
         </translation>
     </message>
     <message id="qtn_dcal_days_after" numerus="yes">
@@ -386,9 +386,9 @@ SPDX-License-Identifier: LGPL-2.1-or-later
             <numerusform>عند البداية</numerusform>
             <numerusform>بعد يوم</numerusform>
             <numerusform>بعد يومين</numerusform>
-            <numerusform>بعد %n أيام</numerusform>
-            <numerusform>بعد %n يومًا</numerusform>
-            <numerusform>بعد %n يوم</numerusform>
+            <numerusform>بعد %Ln أيام</numerusform>
+            <numerusform>بعد %Ln يومًا</numerusform>
+            <numerusform>بعد %Ln يوم</numerusform>
         </translation>
     </message>
     <message id="qtn_dcal_accepted">
@@ -450,11 +450,6 @@ SPDX-License-Identifier: LGPL-2.1-or-later
         <source>Attachments</source>
         <extracomment>Caption above what is attached to a note.</extracomment>
         <translation>المرفقات</translation>
-    </message>
-    <message id="qtn_dcal_open_question">
-        <source>Open %1?</source>
-        <extracomment>Asks before something outside of the calendar is opened; %1 is its address.</extracomment>
-        <translation>فتح %1؟</translation>
     </message>
 </context>
 </TS>

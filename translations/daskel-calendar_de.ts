@@ -391,10 +391,5 @@ SPDX-License-Identifier: LGPL-2.1-or-later
         <extracomment>Caption above what is attached to a note.</extracomment>
         <translation>Anhänge</translation>
     </message>
-    <message id="qtn_dcal_open_question">
-        <source>Open %1?</source>
-        <extracomment>Asks before something outside of the calendar is opened; %1 is its address.</extracomment>
-        <translation>%1 öffnen?</translation>
-    </message>
 </context>
 </TS>

@@ -59,12 +59,15 @@ NoteTimes eventTimes(const NoteWidgetModel &model, const NoteDetails &details)
     return {first, model.allDay() ? QString() : endText(DaskelLocale::formatShortTime(end))};
 }
 
-NoteTimes todoTimes(const NoteWidgetModel &model, const QDateTime &now)
+NoteTimes todoTimes(const NoteWidgetModel &model, const NoteDetails &details, const QDateTime &now)
 {
-    if (!model.dueDate().isValid())
+    // Each occurrence of a repeating one is due when it takes place.
+    const bool isOccurrence = details.isRepeating && model.startTime().isValid();
+    const QDateTime dueDate = isOccurrence ? model.startTime() : model.dueDate();
+    if (!dueDate.isValid())
         return {};
     // A date without a time is that date everywhere.
-    const QDateTime due = model.allDay() ? model.dueDate() : model.dueDate().toLocalTime();
+    const QDateTime due = model.allDay() ? dueDate : dueDate.toLocalTime();
     const bool isToday = due.date() == now.date();
     const bool isPast = model.allDay() ? due.date() < now.date() : due < now;
     NoteTimes times;
@@ -93,7 +96,7 @@ NoteTimes noteTimes(const NoteWidgetModel &model, const NoteDetails &details, co
     case NoteWidgetModel::EventNote:
         return eventTimes(model, details);
     case NoteWidgetModel::TodoNote:
-        return todoTimes(model, now);
+        return todoTimes(model, details, now);
     case NoteWidgetModel::JournalNote:
         break;
     }

@@ -33,6 +33,7 @@ AgendaContent::AgendaContent(NoteDeletion *deletion)
     m_jumpButton->setViewType(QStringLiteral("icon"));
     m_jumpButton->setStyleName(QStringLiteral("IconButton"));
     m_jumpButton->setIconID(QStringLiteral("calendar"));
+    m_jumpButton->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     headerRow()->addItem(m_jumpButton);
     headerRow()->setAlignment(m_jumpButton, Qt::AlignVCenter);
     connect(m_jumpButton, &MButton::clicked, this, &AgendaContent::chooseDate);
@@ -150,7 +151,6 @@ void AgendaContent::viewChanged()
 
 void AgendaContent::chooseDate()
 {
-    const QDate day = askForDate(topDay().isValid() ? topDay() : Dates::today());
-    if (day.isValid())
-        jumpTo(day);
+    askForDate(topDay().isValid() ? topDay() : Dates::today(),
+               [this](const QDate &day) { jumpTo(day); });
 }

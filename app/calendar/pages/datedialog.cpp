@@ -9,17 +9,20 @@
 #include <touchcore/mdatepicker.h>
 #include <touchcore/mdialog.h>
 
-QDate askForDate(const QDate &day)
+void askForDate(const QDate &day, const std::function<void(const QDate &)> &answer)
 {
-    MDialog dialog;
-    dialog.setTitle(qtTrId("qtn_dcal_jump_to_date"));
+    auto *dialog = new MDialog;
+    dialog->setTitle(qtTrId("qtn_dcal_jump_to_date"));
     auto *picker = new MDatePicker;
     picker->setToday(Dates::today());
     picker->setDate(day);
-    dialog.setCentralWidget(picker);
-    dialog.addButton(qtTrId("qtn_comm_cancel"), MDialog::Rejected);
+    dialog->setCentralWidget(picker);
+    dialog->addButton(qtTrId("qtn_comm_cancel"), MDialog::Rejected);
     // A tap on a day is the answer.
-    QObject::connect(picker, &MDatePicker::dateTapped, &dialog, &MDialog::accept);
-    PageSwitcher::instance()->registerAutokillDialog(&dialog);
-    return dialog.exec() == MDialog::Accepted ? picker->date() : QDate();
+    QObject::connect(picker, &MDatePicker::dateTapped, dialog, [dialog, answer](const QDate &date) {
+        dialog->accept();
+        answer(date);
+    });
+    PageSwitcher::instance()->registerAutokillDialog(dialog);
+    dialog->appear(MSceneWindow::DestroyWhenDone);
 }

@@ -6,7 +6,10 @@
 
 #include <QDate>
 
-/// Asks for a day, beginning at \a day; invalid when the person wants none. Waits for the answer.
-QDate askForDate(const QDate &day);
+#include <functional>
+
+/// Asks for a day, beginning at \a day, and returns; \a answer is called with the one that was
+/// chosen, if any.
+void askForDate(const QDate &day, const std::function<void(const QDate &)> &answer);
 
 #endif

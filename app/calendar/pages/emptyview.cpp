@@ -13,11 +13,10 @@ EmptyView::EmptyView(QGraphicsItem *parent)
     : MStylableWidget(parent), m_image(new MImageWidget(this)), m_label(new MLabel(this)),
       m_button(new MButton(this))
 {
-    m_image->setStyleName(QStringLiteral("EmptyPageImage"));
     m_label->setStyleName(QStringLiteral("EmptyPageLabel"));
     m_label->setWordWrap(true);
     m_label->setAlignment(Qt::AlignCenter);
-    m_button->setStyleName(QStringLiteral("MainActionButton"));
+    m_button->setStyleName(QStringLiteral("EmptyPageButton"));
     constexpr qreal spacing = 24;
     auto *layout = new QGraphicsLinearLayout(Qt::Vertical, this);
     layout->setSpacing(spacing);
@@ -33,6 +32,9 @@ EmptyView::EmptyView(QGraphicsItem *parent)
 
 void EmptyView::show(const QString &image, const QString &text, const QString &buttonText)
 {
+    // Signs of the icon set are square, the drawings are not.
+    m_image->setStyleName(image == QLatin1String("error") ? QStringLiteral("ErrorPageImage")
+                                                          : QStringLiteral("EmptyPageImage"));
     m_image->setImage(image);
     m_label->setText(text);
     m_button->setText(buttonText);

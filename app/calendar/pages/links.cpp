@@ -3,20 +3,8 @@
 
 #include "links.h"
 
-#include <daskel/daskelutility.h>
-
-#include <QDesktopServices>
 #include <QTextDocumentFragment>
 #include <QUrl>
-
-void Links::open(const QString &address)
-{
-    const QUrl url(address);
-    const QString scheme = url.scheme();
-    const bool isWebPage = scheme == QLatin1String("http") || scheme == QLatin1String("https");
-    if (isWebPage || daskelUtilityAskYesNo(qtTrId("qtn_dcal_open_question").arg(address)))
-        QDesktopServices::openUrl(url);
-}
 
 QString Links::mapAddress(const KCalCore::Incidence &incidence)
 {

@@ -12,9 +12,6 @@
 /// What leads out of a note. Nothing is loaded by showing it.
 namespace Links
 {
-/// Has the desktop open \a address; asks first unless it is a page of the web. Waits for the
-/// answer.
-void open(const QString &address);
 /// Of the place of a note (RFC 5870).
 QString mapAddress(const KCalCore::Incidence &incidence);
 /// Of an attachment; empty for one that lies in the note itself.

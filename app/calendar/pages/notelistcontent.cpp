@@ -52,6 +52,8 @@ NoteListContent::NoteListContent(std::unique_ptr<AbstractNoteLoader> noteLoader,
     daskelUtilityNewVerticalLayout(m_layout, this);
     m_layout->addItem(m_headerRow);
     m_layout->addItem(m_viewport);
+    // All the height that the header leaves.
+    m_layout->setStretchFactor(m_viewport, 1);
     m_empty->hide();
     connect(m_empty, &EmptyView::buttonClicked, this, &NoteListContent::importWanted);
     connect(m_list, &MList::itemClicked, this, &NoteListContent::open);
@@ -132,6 +134,7 @@ void NoteListContent::showListOrEmpty()
     m_layout->removeItem(other);
     other->hide();
     m_layout->addItem(shown);
+    m_layout->setStretchFactor(shown, 1);
     shown->show();
     m_layout->activate();
 }

@@ -98,9 +98,10 @@ const char *statusId(Attendee::PartStat status)
 QString NoteText::when(const Incidence::Ptr &incidence, const QDateTime &start)
 {
     if (const auto todo = incidence.dynamicCast<KCalCore::Todo>()) {
-        if (!todo->hasDueDate())
-            return {};
-        return qtTrId("qtn_dcal_due").arg(moment(todo->dtDue().toLocalTime(), todo->allDay()));
+        const bool isOccurrence = todo->recurs() && start.isValid();
+        const QDateTime due = isOccurrence ? start : todo->dtDue();
+        return due.isValid() ? qtTrId("qtn_dcal_due").arg(moment(due.toLocalTime(), todo->allDay()))
+                             : QString();
     }
     const QDateTime occurrence =
         incidence->recurs() ? mKCal::previousOccurrence(incidence, start) : incidence->dtStart();

@@ -11,6 +11,8 @@
 #include <daskel/mycolorlabel.h>
 #include <daskel/notebookmanager.h>
 #include <daskel/notewidget.h>
+#include <daskel/openlink.h>
+#include <touchcore/mapplication.h>
 #include <touchcore/mbutton.h>
 #include <touchcore/mlabel.h>
 
@@ -189,9 +191,8 @@ void NoteViewContent::addLink(const QString &text, const QString &address)
     auto *button = new MButton(text, this);
     button->setStyleName(QStringLiteral("NoteViewLink"));
     m_layout->addItem(button);
-    m_layout->setAlignment(button,
-                           layoutDirection() == Qt::RightToLeft ? Qt::AlignRight : Qt::AlignLeft);
-    connect(button, &MButton::clicked, this, [address] { Links::open(address); });
+    connect(button, &MButton::clicked, this,
+            [address] { openLink(QUrl(address), MApplication::activeApplicationWindow()); });
 }
 
 /// Ticking off is what one does with a to-do.

@@ -4,18 +4,21 @@
 #
 # run-demo.sh BUILD_DIR [--today DATE]
 # Fills a demonstration database from the sample calendars, placed around today (or DATE), and
-# prints the agenda of the next four weeks.
+# prints the agenda of the next four weeks; where there is a display, opens the calendar on it.
+# run-demo.sh BUILD_DIR --pictures DIR
+# fills it and writes a picture of every page of the calendar into the folder DIR.
 # run-demo.sh BUILD_DIR --data DIR
-# prints that of the database in the folder DIR instead.
+# prints the agenda of the database in the folder DIR instead.
 set -eu
 
 build=$(cd "$1" && pwd)
 shift
 demo=$(cd "$(dirname "$0")" && pwd)
 daskel=$build/app/cli/daskel
+calendar=$build/app/calendar/daskel-calendar
 
 usage() {
-    echo "usage: ./run [--data DIR | --today DATE]" >&2
+    echo "usage: ./run [--data DIR | --today DATE | --pictures DIR]" >&2
     exit 2
 }
 
@@ -23,6 +26,7 @@ usage() {
 zone=Europe/Helsinki
 today=$(TZ=$zone date +%F)
 from=
+pictures=
 case ${1-} in
 --data)
     [ $# -eq 2 ] || usage
@@ -32,6 +36,11 @@ case ${1-} in
     [ $# -eq 2 ] || usage
     today=$2
     from="--from $today"
+    ;;
+--pictures)
+    [ $# -eq 2 ] || usage
+    mkdir -p "$2"
+    pictures=$(cd "$2" && pwd)
     ;;
 ?*) usage ;;
 esac
@@ -59,3 +68,12 @@ show todos
 echo "Times are those of $zone, where the people of the samples live."
 echo "The demonstration database is in $data. Try:"
 echo "  $daskel --data $data --help"
+if [ -n "$pictures" ]; then
+    # Without a display, and with the settings of nobody.
+    XDG_CONFIG_HOME=$data QT_QPA_PLATFORM=offscreen "$calendar" --data "$data" --pictures "$pictures"
+    echo "The pictures are in $pictures."
+elif [ -n "${DISPLAY-}${WAYLAND_DISPLAY-}" ]; then
+    exec "$calendar" --data "$data"
+else
+    echo "  $calendar --data $data     (needs a display)"
+fi
