@@ -7,6 +7,7 @@
 #include <touchcore/mlayout.h>
 #include <touchcore/mlinearlayoutpolicy.h>
 #include <touchcore/msheet.h>
+#include <touchcore/mtextedit.h>
 #include <touchcore/mtheme.h>
 #include <touchcore/mwidget.h>
 
@@ -99,6 +100,8 @@ private Q_SLOTS:
     void prestartedWindowsStayHidden();
     void activeWindows();
     void keyboardHides();
+    void keyboardKnowsTheCursor_data();
+    void keyboardKnowsTheCursor();
     void showsTheBackground();
 };
 
@@ -452,6 +455,37 @@ void TestMWindow::keyboardHides()
     window.scene()->setFocusItem(nullptr);
     QVERIFY(!QGuiApplication::inputMethod()->isVisible());
     QVERIFY(!window.testAttribute(Qt::WA_InputMethodEnabled));
+}
+
+void TestMWindow::keyboardKnowsTheCursor_data()
+{
+    QTest::addColumn<int>("angle");
+    QTest::newRow("upright") << 0;
+    QTest::newRow("right") << 90;
+    QTest::newRow("upside down") << 180;
+    QTest::newRow("left") << 270;
+}
+
+/// Where it stands on the screen, so that an on-screen keyboard does not cover it.
+void TestMWindow::keyboardKnowsTheCursor()
+{
+    QFETCH(int, angle);
+    SceneTest window;
+    window.setRotationAngle(angle);
+    MApplicationPage *page = SceneTest::makePage();
+    auto *panel = new QGraphicsWidget;
+    auto *field = new MTextEdit;
+    field->setParentItem(panel);
+    field->setGeometry(30, 50, 200, 48);
+    field->setText(QStringLiteral("Dentist"));
+    page->setCentralWidget(panel);
+    page->appear(&window);
+    field->setFocus();
+    const QPolygon place = window.mapFromScene(field->mapRectToScene(field->rect()));
+    const QRectF cursor = window.inputMethodQuery(Qt::ImCursorRectangle).toRectF();
+    QVERIFY(!cursor.isEmpty());
+    QVERIFY(QRectF(place.boundingRect()).contains(cursor));
+    QCOMPARE(window.inputMethodQuery(Qt::ImSurroundingText).toString(), QStringLiteral("Dentist"));
 }
 
 void TestMWindow::showsTheBackground()
