@@ -24,7 +24,7 @@ const int interval = 40;
 QString nameOf(const QGraphicsObject &widget)
 {
     for (const char *property : {"prompt", "text"}) {
-        const QString name = widget.property(property).toString();
+        QString name = widget.property(property).toString();
         if (!name.isEmpty())
             return name;
     }
@@ -33,7 +33,7 @@ QString nameOf(const QGraphicsObject &widget)
     const QList<QGraphicsItem *> children = widget.childItems();
     for (const QGraphicsItem *child : children) {
         const QGraphicsObject *object = child->toGraphicsObject();
-        const QString name = object ? nameOf(*object) : QString();
+        QString name = object ? nameOf(*object) : QString();
         if (!name.isEmpty())
             return name;
     }

@@ -30,7 +30,7 @@ public:
     Q_FLAG(StandardButtons)
 
     /// Part of the interface.
-    static constexpr int AffirmativeResult = 1024;
+    static constexpr int AffirmativeResult = 1024; // NOLINT(readability-identifier-naming)
 
     MMessageBox(const QString &title, const QString &text, StandardButtons buttons = Ok);
     explicit MMessageBox(const QString &text, StandardButtons buttons = Ok);

@@ -48,7 +48,7 @@ public:                                                                         
 protected:                                                                                         \
     MStyle *newStyle() const override                                                              \
     {                                                                                              \
-        return new StyleClass;                                                                     \
+        return new StyleClass; /* NOLINT(bugprone-macro-parentheses): a type */                    \
     }                                                                                              \
                                                                                                    \
 private:

@@ -34,7 +34,7 @@ public:
 #define M_REGISTER_VIEW(View, Controller)                                                          \
     static const bool isRegistered##View = MViewFactory::registerView(                             \
         #View, #Controller, [](MWidgetController *controller) -> MWidgetView * {                   \
-            return new View(static_cast<Controller *>(controller));                                \
+            return new View(static_cast<Controller *>(controller)); /* NOLINT: a type */           \
         });
 
 #endif

@@ -31,8 +31,11 @@ QAccessibleInterface *AccessibleGrid::child(int index) const
         return nullptr;
     if (m_cells.size() <= index)
         m_cells.resize(index + 1);
-    if (!m_cells[index])
-        m_cells[index] = QAccessible::registerAccessibleInterface(new AccessibleCell(this, index));
+    if (!m_cells[index]) {
+        auto *cell = new AccessibleCell(this, index);
+        // QAccessible owns it from here. NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks)
+        m_cells[index] = QAccessible::registerAccessibleInterface(cell);
+    }
     return QAccessible::accessibleInterface(m_cells[index]);
 }
 

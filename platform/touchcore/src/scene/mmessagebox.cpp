@@ -13,16 +13,16 @@ namespace
 {
 /// In the order in which they stand: the affirmative one last, where the thumb is.
 struct Choice {
-    MMessageBox::StandardButton button;
     QString (*text)();
+    MMessageBox::StandardButton button;
     bool isAffirmative;
 };
 
 const Choice choices[] = {
-    {MMessageBox::Cancel, SceneTexts::cancel, false},
-    {MMessageBox::No, SceneTexts::no, false},
-    {MMessageBox::Yes, SceneTexts::yes, true},
-    {MMessageBox::Ok, SceneTexts::ok, true},
+    {SceneTexts::cancel, MMessageBox::Cancel, false},
+    {SceneTexts::no, MMessageBox::No, false},
+    {SceneTexts::yes, MMessageBox::Yes, true},
+    {SceneTexts::ok, MMessageBox::Ok, true},
 };
 } // namespace
 
