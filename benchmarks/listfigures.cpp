@@ -305,7 +305,7 @@ void measureLists(const Bench &bench)
                   });
     measureGrowth(bench, QStringLiteral("jumps in a list, to a tenth of its rows"),
                   [](ListScreen &screen, Meetings *meetings) {
-                      const int groups = meetings->rowCount();
+                      const int groups = qMax(1, meetings->rowCount());
                       for (int jump = 0; jump < 20; ++jump) {
                           const QModelIndex group = meetings->index((jump * 7 + 3) % groups, 0);
                           screen.list->scrollTo(meetings->index(jump % rowsPerGroup, 0, group),
