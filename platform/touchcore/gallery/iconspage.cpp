@@ -22,8 +22,8 @@ const char *const icons[] = {
     "share",        "undo",          "import",     "export",       "sync",   "warning",   "info",
     "error",        "star",          "eye",        "eye-off",      "drag",
 };
-const int columns = 5;
-const qreal columnWidth = 80; // as wide as the longest name, so that all are alike
+const int columns = 4;
+const qreal columnWidth = 100; // as wide as the longest name, so that all are alike
 
 QGraphicsWidget *captioned(const char *icon)
 {

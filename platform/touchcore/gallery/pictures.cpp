@@ -25,18 +25,20 @@ struct Variant {
     M::Orientation orientation;
     Qt::LayoutDirection direction;
     int scale;
+    qreal textScale = 1;
 };
 
 QVector<Variant> variants()
 {
-    QVector<Variant> all;
+    QVector<Variant> all{
+        {"light-large-text", M::LightScheme, M::Portrait, Qt::LeftToRight, 1, 1.3}};
     for (const int scale : {1, 2}) {
-        all += {"light", M::LightScheme, M::Portrait, Qt::LeftToRight, scale};
-        all += {"dark", M::DarkScheme, M::Portrait, Qt::LeftToRight, scale};
-        all += {"light-landscape", M::LightScheme, M::Landscape, Qt::LeftToRight, scale};
-        all += {"dark-landscape", M::DarkScheme, M::Landscape, Qt::LeftToRight, scale};
-        all += {"light-rtl", M::LightScheme, M::Portrait, Qt::RightToLeft, scale};
-        all += {"dark-rtl-landscape", M::DarkScheme, M::Landscape, Qt::RightToLeft, scale};
+        all += Variant{"light", M::LightScheme, M::Portrait, Qt::LeftToRight, scale};
+        all += Variant{"dark", M::DarkScheme, M::Portrait, Qt::LeftToRight, scale};
+        all += Variant{"light-landscape", M::LightScheme, M::Landscape, Qt::LeftToRight, scale};
+        all += Variant{"dark-landscape", M::DarkScheme, M::Landscape, Qt::LeftToRight, scale};
+        all += Variant{"light-rtl", M::LightScheme, M::Portrait, Qt::RightToLeft, scale};
+        all += Variant{"dark-rtl-landscape", M::DarkScheme, M::Landscape, Qt::RightToLeft, scale};
     }
     return all;
 }
@@ -59,6 +61,7 @@ QString writePictures(const QString &folder)
     MSceneManager::setAnimationsEnabled(false);
     for (const Variant &variant : variants()) {
         MTheme::instance()->setColorScheme(variant.scheme);
+        MTheme::instance()->setTextScale(variant.textScale);
         QGuiApplication::setLayoutDirection(variant.direction);
         for (const GalleryPage &page : galleryPages()) {
             MWindow window;
