@@ -141,5 +141,40 @@ SPDX-License-Identifier: LGPL-2.1-or-later
         <extracomment>Button.</extracomment>
         <translation>Rückgängig</translation>
     </message>
+    <message id="qtn_comm_command_ok">
+        <source>OK</source>
+        <extracomment>Button of a dialog.</extracomment>
+        <translation>OK</translation>
+    </message>
+    <message id="qtn_comm_command_cancel">
+        <source>Cancel</source>
+        <extracomment>Button of a dialog.</extracomment>
+        <translation>Abbrechen</translation>
+    </message>
+    <message id="qtn_comm_command_yes">
+        <source>Yes</source>
+        <extracomment>Button of a question.</extracomment>
+        <translation>Ja</translation>
+    </message>
+    <message id="qtn_comm_command_no">
+        <source>No</source>
+        <extracomment>Button of a question.</extracomment>
+        <translation>Nein</translation>
+    </message>
+    <message id="qtn_comm_command_back">
+        <source>Back</source>
+        <extracomment>Name of the button that leaves a page.</extracomment>
+        <translation>Zurück</translation>
+    </message>
+    <message id="qtn_comm_command_close">
+        <source>Close</source>
+        <extracomment>Name of the button that closes a page or a sheet.</extracomment>
+        <translation>Schließen</translation>
+    </message>
+    <message id="qtn_comm_more_actions">
+        <source>More actions</source>
+        <extracomment>Name of the button that opens the menu of a page.</extracomment>
+        <translation>Weitere Aktionen</translation>
+    </message>
 </context>
 </TS>

@@ -11,6 +11,7 @@
 #include <daskel/calendarconf.h>
 #include <daskel/daskelutility.h>
 #include <daskel/notedeletion.h>
+#include <daskel/notelistwidget.h>
 #include <daskel/pageswitcher.h>
 #include <touchcore/mapplicationpage.h>
 #include <touchcore/mlayout.h>
@@ -85,6 +86,8 @@ void CalendarWindow::showPage(PageBar::Page page)
 {
     m_current = page;
     PageSwitcher::instance()->showPage(m_pages[page], true, true);
+    // The keys are those of the list.
+    m_contents[page]->list()->setFocus();
     if (CalendarConf::instance()->lastActiveTab() != page)
         CalendarConf::instance()->setLastActiveTab(page);
 }

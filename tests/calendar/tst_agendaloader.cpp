@@ -47,6 +47,8 @@ private Q_SLOTS:
     void todayIsAlwaysThere_data();
     void todayIsAlwaysThere();
     void emptyYearsAreJumpedOver();
+    void todayIsReachedFromFarAway_data();
+    void todayIsReachedFromFarAway();
     void goesOnWhereItStopped();
     void beginsAtTheAnchor();
     void invisibleNotebooksAreLeftOut();
@@ -137,6 +139,26 @@ void AgendaLoaderTest::emptyYearsAreJumpedOver()
     QCOMPARE(agenda.rows.takeUids(), QStringList("second"));
     agenda.loader.loadEarlier();
     QCOMPARE(agenda.rows.takeUids(), QStringList("first"));
+}
+
+void AgendaLoaderTest::todayIsReachedFromFarAway_data()
+{
+    QTest::addColumn<QDate>("anchor");
+    QTest::addColumn<bool>("goesBack");
+    QTest::newRow("from the past") << QDate(1970, 1, 1) << false;
+    QTest::newRow("from the future") << QDate(2070, 1, 1) << true;
+}
+
+void AgendaLoaderTest::todayIsReachedFromFarAway()
+{
+    QFETCH(QDate, anchor);
+    QFETCH(bool, goesBack);
+    Agenda agenda({meeting("now", "2011-03-10T09:00")});
+    agenda.loader.setAnchor(anchor);
+    agenda.loader.load();
+    if (goesBack)
+        agenda.loader.loadEarlier();
+    QCOMPARE(agenda.rows.take(), QStringList({"[Thursday, 10 March · today]", "now 09:00"}));
 }
 
 void AgendaLoaderTest::goesOnWhereItStopped()

@@ -16,6 +16,32 @@ constexpr int firstStretch = 14;
 constexpr int longestStretch = 224;
 /// What lies farther away is not looked for: notebooks that are not visible may go on for ever.
 constexpr int mostEmptyDays = 3653;
+/// How far the storage looks for the next day with something.
+constexpr int horizonYears = 10;
+
+// Today is never out of sight, however far away the list began.
+
+QDate nextDate(QDate from)
+{
+    const auto storage = DbInstance::instance()->storage();
+    QDate next = storage->nextDateWithIncidence(from);
+    for (const QDate today = Dates::today(); !next.isValid() && from < today;) {
+        from = std::min(from.addYears(horizonYears), today);
+        next = storage->nextDateWithIncidence(from);
+    }
+    return next;
+}
+
+QDate previousDate(QDate from)
+{
+    const auto storage = DbInstance::instance()->storage();
+    QDate previous = storage->previousDateWithIncidence(from);
+    for (const QDate today = Dates::today(); !previous.isValid() && from > today;) {
+        from = std::max(from.addYears(-horizonYears), today);
+        previous = storage->previousDateWithIncidence(from);
+    }
+    return previous;
+}
 } // namespace
 
 AgendaLoader::AgendaLoader() = default;
@@ -42,8 +68,7 @@ void AgendaLoader::load()
 
 void AgendaLoader::loadLater()
 {
-    DbInstance *const db = DbInstance::instance();
-    if (!db->isEnabled() || m_isEndReached || !m_last.isValid())
+    if (!DbInstance::instance()->isEnabled() || m_isEndReached || !m_last.isValid())
         return;
     const int wanted = incidenceCount() + batchSize();
     int stretch = firstStretch;
@@ -66,7 +91,7 @@ void AgendaLoader::loadLater()
         }
         emptyDays += stretch;
         stretch = std::min(stretch * 2, longestStretch);
-        const QDate next = db->storage()->nextDateWithIncidence(last.addDays(1));
+        const QDate next = nextDate(last.addDays(1));
         handOverToday(last.addDays(1), next.isValid() ? next.addDays(-1) : QDate());
         m_isEndReached = !next.isValid() || emptyDays > mostEmptyDays;
         if (m_isEndReached)
@@ -77,8 +102,7 @@ void AgendaLoader::loadLater()
 
 void AgendaLoader::loadEarlier()
 {
-    DbInstance *const db = DbInstance::instance();
-    if (!db->isEnabled() || m_isStartReached || !m_first.isValid())
+    if (!DbInstance::instance()->isEnabled() || m_isStartReached || !m_first.isValid())
         return;
     const int wanted = incidenceCount() + batchSize();
     int stretch = firstStretch;
@@ -102,7 +126,7 @@ void AgendaLoader::loadEarlier()
         }
         emptyDays += stretch;
         stretch = std::min(stretch * 2, longestStretch);
-        const QDate previous = db->storage()->previousDateWithIncidence(first.addDays(-1));
+        const QDate previous = previousDate(first.addDays(-1));
         handOverToday(previous.isValid() ? previous.addDays(1) : QDate(), first.addDays(-1));
         m_isStartReached = !previous.isValid() || emptyDays > mostEmptyDays;
         if (m_isStartReached)

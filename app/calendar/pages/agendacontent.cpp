@@ -97,8 +97,11 @@ void AgendaContent::jumpTo(const QDate &day)
         NoteListContent::notifyUpdate(DataReason);
         m_isJumping = false;
         header = headerFrom(day);
+        // The nearest day with something is later than the one asked for, or earlier.
+        const QModelIndex first = noteModel()->index(0, 0);
         if (!header.isValid())
-            header = noteModel()->index(noteModel()->rowCount() - 1, 0);
+            header =
+                dayOf(first) > day ? first : noteModel()->index(noteModel()->rowCount() - 1, 0);
     }
     list()->scrollTo(header, MList::PositionAtTop);
     viewChanged();

@@ -39,6 +39,7 @@ public:
 
     ~NoteListContent() override;
 
+    DaskelPageHeaderWidget *header() const { return m_header; }
     NoteListWidget *list() const { return m_list; }
     MPannableViewport *viewport() const { return m_viewport; }
 
@@ -70,7 +71,6 @@ protected:
     /// What the Home key does.
     virtual void goHome();
 
-    DaskelPageHeaderWidget *header() const { return m_header; }
     /// The row of the header, for more buttons.
     QGraphicsLinearLayout *headerRow() const { return m_headerRow; }
     NoteWidgetItemModel *noteModel() const;
