@@ -101,6 +101,8 @@ void CalendarApplication::start(const QStringList &files)
         if (code != DbInstance::DbSaveOk)
             tellFailedSave();
     });
+    // The pages are there while the database is still waited for.
+    m_window->showCalendar();
     if (db->tryOpenDatabase())
         databaseOpened();
 }

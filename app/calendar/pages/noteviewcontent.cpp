@@ -146,8 +146,13 @@ void NoteViewContent::addPeople(const Incidence &note)
                       .arg(organizer.name().isEmpty() ? organizer.email() : organizer.name());
     }
     const auto attendees = note.attendees();
-    for (const auto &attendee : attendees)
-        people << NoteText::participant(attendee);
+    for (const auto &attendee : attendees) {
+        // Who invites comes, and stands there already.
+        const bool isOrganizer = !organizer.email().isEmpty()
+            && attendee.email().compare(organizer.email(), Qt::CaseInsensitive) == 0;
+        if (!isOrganizer)
+            people << NoteText::participant(attendee);
+    }
     addSection("qtn_dcal_participants", people.join(QLatin1Char('\n')));
 }
 
