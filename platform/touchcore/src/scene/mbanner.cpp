@@ -48,12 +48,8 @@ MBanner::MBanner(QGraphicsItem *parent)
     d->row->setAlignment(d->icon, Qt::AlignVCenter);
     d->row->setAlignment(d->title, Qt::AlignVCenter);
     d->row->setAlignment(d->action, Qt::AlignVCenter);
-    connect(d->action, &MButton::clicked, this, [this] {
-        const QPointer<MBanner> guard(this);
-        Q_EMIT actionClicked();
-        if (guard)
-            disappear();
-    });
+    connect(d->action, &MButton::clicked, this, &MBanner::actionClicked);
+    connect(d->action, &MButton::clicked, this, &MBanner::disappear);
     connect(this, &MSceneWindow::appeared, this, [this] {
         const int styled = actionText().isEmpty() ? style()->timeout() : style()->actionTimeout();
         const int time = d->timeout < 0 ? styled : d->timeout;

@@ -69,6 +69,7 @@ QSizeF MStylableWidget::sizeHint(Qt::SizeHint which, const QSizeF &constraint) c
     if (d->styledAs != metaObject())
         const_cast<MStylableWidget *>(this)->applyStyle();
     const QSizeF own = style()->sizeHint(which);
+    // NOLINTNEXTLINE(bugprone-parent-virtual-call): that of the controller asks a view.
     const QSizeF inherited = MWidget::sizeHint(which, constraint);
     // What a layout needs is never cut by a style's preferred size; its minimum may only enlarge.
     const bool isLaidOut = layout() && which != Qt::MaximumSize;

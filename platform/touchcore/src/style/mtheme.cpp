@@ -232,7 +232,7 @@ void MTheme::setMotionReduced(bool isReduced)
 
 QColor MTheme::color(const QString &role) const
 {
-    const QColor color = d->values.color(role);
+    QColor color = d->values.color(role);
     if (!color.isValid())
         d->warn(QStringLiteral("The theme has no colour \"%1\".").arg(role));
     return color;

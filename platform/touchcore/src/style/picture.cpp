@@ -39,7 +39,7 @@ QString fileOf(const QString &id)
 {
     if (id.startsWith(QLatin1Char('/')) || id.startsWith(QLatin1Char(':')))
         return id;
-    const QString file = MTheme::instance()->imageFile(id);
+    QString file = MTheme::instance()->imageFile(id);
     if (file.isEmpty())
         warnOnce(id, "The theme has no picture named");
     return file;
@@ -93,7 +93,7 @@ QImage picture(const PictureKey &key)
 {
     if (const QImage *kept = pictures().made.object(key))
         return *kept;
-    const QImage image = make(key);
+    QImage image = make(key);
     pictures().made.insert(key, new QImage(image), 1 + int(image.sizeInBytes() / 1024));
     return image;
 }
