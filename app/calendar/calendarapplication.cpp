@@ -192,10 +192,10 @@ bool CalendarApplication::handOver(const QString &service, const QStringList &fi
     if (bus.registerService(service))
         return false;
     QDBusInterface running(service, busPath, busInterface, bus);
-    return QDBusReply<void>(running.call(QStringLiteral("Activate"), files)).isValid();
+    return QDBusReply<void>(running.call(QStringLiteral("activate"), files)).isValid();
 }
 
-void CalendarApplication::Activate(const QStringList &files)
+void CalendarApplication::activate(const QStringList &files)
 {
     m_window->setWindowState(m_window->windowState() & ~Qt::WindowMinimized);
     m_window->show();

@@ -41,7 +41,7 @@ public:
 
 public Q_SLOTS:
     /// Called by a second start, over the session bus: the window comes to the front.
-    Q_SCRIPTABLE void Activate(const QStringList &files);
+    Q_SCRIPTABLE void activate(const QStringList &files);
     /// At once or, while the calendar is not read yet, as soon as it is.
     void importFiles(const QStringList &files);
 

@@ -138,6 +138,21 @@ QString writePages(CalendarWindow *window, const QString &folder, const QString 
     }
     return {};
 }
+/// In one language and scheme, in both orientations.
+QString writeVariant(const QString &folder, const QString &variant)
+{
+    for (const bool isLandscape : {false, true}) {
+        CalendarWindow window;
+        window.resize(isLandscape ? portrait.transposed() : portrait);
+        window.show();
+        QApplication::setActiveWindow(&window);
+        QString wrong = writePages(&window, folder,
+                                   isLandscape ? variant + QStringLiteral("-landscape") : variant);
+        if (!wrong.isEmpty())
+            return wrong;
+    }
+    return {};
+}
 } // namespace
 
 QString writePictures(const QString &folder)
@@ -153,19 +168,11 @@ QString writePictures(const QString &folder)
         QGuiApplication::setLayoutDirection(language.direction);
         for (const Scheme &scheme : schemes) {
             MTheme::instance()->setColorScheme(scheme.scheme);
-            for (const bool isLandscape : {false, true}) {
-                CalendarWindow window;
-                window.resize(isLandscape ? portrait.transposed() : portrait);
-                window.show();
-                QApplication::setActiveWindow(&window);
-                QString variant = QStringLiteral("%1-%2").arg(QLatin1String(language.name),
-                                                              QLatin1String(scheme.name));
-                if (isLandscape)
-                    variant += QStringLiteral("-landscape");
-                const QString wrong = writePages(&window, folder, variant);
-                if (!wrong.isEmpty())
-                    return wrong;
-            }
+            QString wrong = writeVariant(folder,
+                                         QStringLiteral("%1-%2").arg(QLatin1String(language.name),
+                                                                     QLatin1String(scheme.name)));
+            if (!wrong.isEmpty())
+                return wrong;
         }
     }
     return {};
