@@ -162,7 +162,10 @@ void CalendarApplication::importPending()
     mKCal::CalendarImporter importer(db->storage());
     mKCal::ImportReport report;
     if (!importer.importFiles(files, &report)) {
-        tell(qtTrId("qtn_dcal_import_failed").arg(saveErrorText(errorCode())));
+        // Where the database is not at fault, no file could be read.
+        const int code = errorCode();
+        tell(code == 0 ? qtTrId("qtn_dcal_import_unreadable")
+                       : qtTrId("qtn_dcal_import_failed").arg(saveErrorText(code)));
         return;
     }
     const int taken = report.created + report.changed + report.same;

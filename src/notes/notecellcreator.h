@@ -6,8 +6,8 @@
 
 #include <touchcore/mcellcreator.h>
 
-#include <QSizeF>
 #include <QPointer>
+#include <QSizeF>
 #include <QString>
 
 class NoteListWidget;
