@@ -11,6 +11,7 @@
 #include <daskel/pageswitcher.h>
 #include <touchcore/mapplication.h>
 #include <touchcore/mbutton.h>
+#include <touchcore/mdialog.h>
 #include <touchcore/mlocale.h>
 #include <touchcore/mtheme.h>
 
@@ -220,6 +221,14 @@ void JourneyTest::theKeyboardGoesEverywhere()
         QCoreApplication::processEvents();
     }
     QVERIFY(m_screen->topDay() > QDate(2011, 4, 10));
+    // A question in between leaves the keys to the list.
+    MSceneManager::setAnimationsEnabled(true);
+    QTest::keyClick(window, Qt::Key_Delete);
+    QTRY_VERIFY(qobject_cast<MDialog *>(m_screen->window->sceneManager()->topWindow()));
+    QTest::keyClick(window, Qt::Key_Escape);
+    QTRY_COMPARE(m_screen->window->sceneManager()->sceneWindows().size(), 1);
+    MSceneManager::setAnimationsEnabled(false);
+    QTRY_COMPARE(m_screen->window->scene()->focusItem(), m_screen->list());
     QTest::keyClick(window, Qt::Key_Home);
     QCOMPARE(m_screen->topDay(), QDate(2011, 3, 10));
     QTest::keyClick(window, Qt::Key_Down);

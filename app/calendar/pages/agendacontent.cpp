@@ -15,6 +15,7 @@
 #include <touchcore/mpannableviewport.h>
 
 #include <QGraphicsLinearLayout>
+#include <QItemSelectionModel>
 
 #include <algorithm>
 
@@ -116,6 +117,8 @@ void AgendaContent::goToToday()
 void AgendaContent::goHome()
 {
     goToToday();
+    // The arrows go on from what is seen now.
+    list()->selectionModel()->setCurrentIndex(QModelIndex(), QItemSelectionModel::NoUpdate);
 }
 
 QModelIndex AgendaContent::headerFrom(const QDate &day) const

@@ -33,7 +33,7 @@ QString span(const QDateTime &start, const QDateTime &end, bool isAllDay)
 {
     // The end of an all-day one is the day after its last.
     const QDateTime last = isAllDay && end.date() > start.date() ? end.addDays(-1) : end;
-    const QString first = moment(start, isAllDay);
+    QString first = moment(start, isAllDay);
     if (!last.isValid() || last == start || (isAllDay && last.date() == start.date()))
         return first;
     const bool isOneDay = last.date() == start.date();

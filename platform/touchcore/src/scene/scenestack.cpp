@@ -299,6 +299,14 @@ void MSceneManagerPrivate::finishDisappearing(MSceneWindow *left)
     Q_EMIT left->disappeared();
     if (guard && left->d->state == MSceneWindow::Disappeared)
         deleteIfDone(left);
+    // A panel that is deleted takes the scene's focus with it, whoever has it.
+    if (guard && left->deletionPolicy() != MSceneWindow::KeepWhenDone) {
+        const auto keepFocus = [this] {
+            if (!window->scene()->focusItem())
+                giveFocus();
+        };
+        QObject::connect(left, &QObject::destroyed, q, keepFocus, Qt::QueuedConnection);
+    }
 }
 
 void MSceneManagerPrivate::deleteIfDone(MSceneWindow *left)
