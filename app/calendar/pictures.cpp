@@ -110,7 +110,8 @@ QImage pictureOf(MWindow *window, int scale)
     QImage image(window->size() * scale, QImage::Format_RGB32);
     image.setDevicePixelRatio(scale);
     QPainter painter(&image);
-    window->render(&painter);
+    // Without the rectangle the view takes the picture's pixels for its own.
+    window->render(&painter, QRectF(QPointF(0, 0), window->size()));
     return image;
 }
 

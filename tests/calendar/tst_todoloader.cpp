@@ -21,14 +21,14 @@ const QDate today = FilledDatabase::today();
 
 Todo::Ptr allDay(const QString &uid, const QDate &due)
 {
-    const auto todo = makeTodo(uid, due.startOfDay());
+    auto todo = makeTodo(uid, due.startOfDay());
     todo->setAllDay(true);
     return todo;
 }
 
 Todo::Ptr done(const QString &uid, const char *completed)
 {
-    const auto todo = makeTodo(uid, localTime("2011-03-01T10:00"));
+    auto todo = makeTodo(uid, localTime("2011-03-01T10:00"));
     todo->setCompleted(localTime(completed));
     return todo;
 }
