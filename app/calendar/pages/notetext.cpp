@@ -80,6 +80,15 @@ QString weekdays(const KCalCore::Recurrence &recurrence)
     return names.join(qtTrId("qtn_dcal_list_separator"));
 }
 
+/// Invalid for what has no end.
+QDate lastDay(const KCalCore::Recurrence &recurrence)
+{
+    if (recurrence.duration() < 0)
+        return {};
+    return recurrence.allDay() ? recurrence.endDate()
+                               : recurrence.endDateTime().toLocalTime().date();
+}
+
 const char *statusId(Attendee::PartStat status)
 {
     switch (status) {
@@ -124,8 +133,8 @@ QString NoteText::repetition(const Incidence &incidence)
         text = qtTrId("qtn_dcal_repeats_on").arg(text, days);
     if (recurrence.duration() > 0)
         text = qtTrId("qtn_dcal_repeats_times", recurrence.duration()).arg(text);
-    else if (recurrence.duration() == 0 && recurrence.endDate().isValid())
-        text = qtTrId("qtn_dcal_repeats_until").arg(text, Dates::dateText(recurrence.endDate()));
+    else if (lastDay(recurrence).isValid())
+        text = qtTrId("qtn_dcal_repeats_until").arg(text, Dates::dateText(lastDay(recurrence)));
     return text;
 }
 
