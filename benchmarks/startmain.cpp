@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
 #include "bench.h"
+#include "flickfigures.h"
 
 #include <daskel/calendarconf.h>
 #include <daskel/db_instance.h>
@@ -57,8 +58,8 @@ bool showsNotes(const MWindow &window)
     });
 }
 
-/// The application until its agenda is painted.
-void start()
+/// The application until its agenda is painted; then \a work, when there is some.
+void start(const std::function<void(CalendarWindow *)> &work = {})
 {
     CalendarApplication::prepare();
     CalendarWindow window;
@@ -68,6 +69,8 @@ void start()
     const PaintWatch watch(window, [&window] { return showsNotes(window); });
     calendar.start({});
     MApplication::exec();
+    if (work)
+        work(&window);
 }
 
 /// What it cannot do without: an empty window in its theme painted, and what is near today read
@@ -108,13 +111,18 @@ int main(int argc, char *argv[])
     KCalCompat::Clock::setSource(
         [] { return QDateTime(SampleData::middle(), QTime(9, 0), Qt::UTC); });
     const QStringList words = MApplication::arguments().mid(1);
-    require(words.size() == 2, QStringLiteral("usage: start_bench agenda|bare <database>"));
-    require(mKCal::SqliteStorage::setDefaultFile(words.at(1)),
+    require(words.size() == 3,
+            QStringLiteral("usage: start_bench agenda|bare|flick <folder> <count>"));
+    const Bench bench(words.at(1), {});
+    const Sample sample = bench.sample(words.at(2).toInt());
+    require(mKCal::SqliteStorage::setDefaultFile(sample.databaseName),
             QStringLiteral("the default file was used before"));
-    if (words.first() == QLatin1String("agenda"))
-        start();
+    if (words.first() == QLatin1String("bare"))
+        startBare(sample.databaseName);
+    else if (words.first() == QLatin1String("flick"))
+        start([&](CalendarWindow *window) { measureFlicking(bench, sample.count, window); });
     else
-        startBare(words.at(1));
+        start();
     CalendarConf::destroy();
     DbInstance::destroy();
     return 0;

@@ -19,6 +19,7 @@ FIRST_DAY, DAYS = "2026-06-15", "60"
 ROUNDS = {10000: 7, 100000: 3}
 AGENDA_AIMS = {10000: 5, 100000: 10}
 ENVIRONMENT = {**os.environ, "TZ": "Europe/Helsinki"}
+FLICK_FIGURE = "flicked frame of the agenda, to its bare texts"
 START_FIGURE = "start of the application until its agenda is painted"
 COLUMNS = ("figure", "n", "ours", "floor", "ratio", "aim", "ok")
 ROW = "{:44} {:>8} {:>10} {:>10} {:>8} {:>8}  {}"
@@ -60,8 +61,7 @@ def agenda_figures(programs, samples, count):
 def start_figures(program, samples, count):
     """A start of the application until its agenda is painted: beside an empty window painted and the
     same days read and unrolled."""
-    database = samples / str(count) / "calendar.db"
-    ours, floor = (program, "agenda", database), (program, "bare", database)
+    ours, floor = ((program, kind, samples, str(count)) for kind in ("agenda", "bare"))
     process(*ours)
     rounds = [(process(*ours), process(*floor)) for _ in range(ROUNDS[count])]
 
@@ -128,6 +128,8 @@ def all_figures(build, samples, filters):
     for count in ROUNDS:
         if wanted(START_FIGURE, filters):
             yield from start_figures(build / "benchmarks/start_bench", samples, count)
+        if wanted(FLICK_FIGURE, filters):
+            yield from library_figures(build / "benchmarks/start_bench", "flick", samples, str(count))
         names = "daskel agenda of 60 days, new process", "peak memory of that process"
         if any(wanted(name, filters) for name in names):
             yield from agenda_figures(programs, samples, count)
