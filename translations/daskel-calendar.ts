@@ -110,16 +110,16 @@ SPDX-License-Identifier: LGPL-2.1-or-later
         <source>%n items imported.</source>
         <extracomment>Banner after files were taken in.</extracomment>
         <translation>
-            <numerusform>%n item imported.</numerusform>
-            <numerusform>%n items imported.</numerusform>
+            <numerusform>%Ln item imported.</numerusform>
+            <numerusform>%Ln items imported.</numerusform>
         </translation>
     </message>
     <message id="qtn_dcal_import_skipped" numerus="yes">
         <source>%n could not be read.</source>
         <extracomment>Follows the number of items imported.</extracomment>
         <translation>
-            <numerusform>%n could not be read.</numerusform>
-            <numerusform>%n could not be read.</numerusform>
+            <numerusform>%Ln could not be read.</numerusform>
+            <numerusform>%Ln could not be read.</numerusform>
         </translation>
     </message>
     <message id="qtn_dcal_import_unreadable">
@@ -212,7 +212,7 @@ SPDX-License-Identifier: LGPL-2.1-or-later
         <extracomment>How often a note repeats.</extracomment>
         <translation>
             <numerusform>Repeats every minute</numerusform>
-            <numerusform>Repeats every %n minutes</numerusform>
+            <numerusform>Repeats every %Ln minutes</numerusform>
         </translation>
     </message>
     <message id="qtn_dcal_every_hours" numerus="yes">
@@ -220,7 +220,7 @@ SPDX-License-Identifier: LGPL-2.1-or-later
         <extracomment>How often a note repeats.</extracomment>
         <translation>
             <numerusform>Repeats every hour</numerusform>
-            <numerusform>Repeats every %n hours</numerusform>
+            <numerusform>Repeats every %Ln hours</numerusform>
         </translation>
     </message>
     <message id="qtn_dcal_every_days" numerus="yes">
@@ -228,7 +228,7 @@ SPDX-License-Identifier: LGPL-2.1-or-later
         <extracomment>How often a note repeats.</extracomment>
         <translation>
             <numerusform>Repeats every day</numerusform>
-            <numerusform>Repeats every %n days</numerusform>
+            <numerusform>Repeats every %Ln days</numerusform>
         </translation>
     </message>
     <message id="qtn_dcal_every_weeks" numerus="yes">
@@ -236,7 +236,7 @@ SPDX-License-Identifier: LGPL-2.1-or-later
         <extracomment>How often a note repeats.</extracomment>
         <translation>
             <numerusform>Repeats every week</numerusform>
-            <numerusform>Repeats every %n weeks</numerusform>
+            <numerusform>Repeats every %Ln weeks</numerusform>
         </translation>
     </message>
     <message id="qtn_dcal_every_months" numerus="yes">
@@ -244,7 +244,7 @@ SPDX-License-Identifier: LGPL-2.1-or-later
         <extracomment>How often a note repeats.</extracomment>
         <translation>
             <numerusform>Repeats every month</numerusform>
-            <numerusform>Repeats every %n months</numerusform>
+            <numerusform>Repeats every %Ln months</numerusform>
         </translation>
     </message>
     <message id="qtn_dcal_every_years" numerus="yes">
@@ -252,7 +252,7 @@ SPDX-License-Identifier: LGPL-2.1-or-later
         <extracomment>How often a note repeats.</extracomment>
         <translation>
             <numerusform>Repeats every year</numerusform>
-            <numerusform>Repeats every %n years</numerusform>
+            <numerusform>Repeats every %Ln years</numerusform>
         </translation>
     </message>
     <message id="qtn_dcal_repeats_on">
@@ -270,7 +270,7 @@ SPDX-License-Identifier: LGPL-2.1-or-later
         <extracomment>%1 is how often, %n the number of times in all.</extracomment>
         <translation>
             <numerusform>%1, once</numerusform>
-            <numerusform>%1, %n times</numerusform>
+            <numerusform>%1, %Ln times</numerusform>
         </translation>
     </message>
     <message id="qtn_dcal_list_separator">
@@ -287,48 +287,48 @@ SPDX-License-Identifier: LGPL-2.1-or-later
         <source>%n minutes before</source>
         <extracomment>When a reminder rings.</extracomment>
         <translation>
-            <numerusform>%n minute before</numerusform>
-            <numerusform>%n minutes before</numerusform>
+            <numerusform>%Ln minute before</numerusform>
+            <numerusform>%Ln minutes before</numerusform>
         </translation>
     </message>
     <message id="qtn_dcal_hours_before" numerus="yes">
         <source>%n hours before</source>
         <extracomment>When a reminder rings.</extracomment>
         <translation>
-            <numerusform>%n hour before</numerusform>
-            <numerusform>%n hours before</numerusform>
+            <numerusform>%Ln hour before</numerusform>
+            <numerusform>%Ln hours before</numerusform>
         </translation>
     </message>
     <message id="qtn_dcal_days_before" numerus="yes">
         <source>%n days before</source>
         <extracomment>When a reminder rings.</extracomment>
         <translation>
-            <numerusform>%n day before</numerusform>
-            <numerusform>%n days before</numerusform>
+            <numerusform>%Ln day before</numerusform>
+            <numerusform>%Ln days before</numerusform>
         </translation>
     </message>
     <message id="qtn_dcal_minutes_after" numerus="yes">
         <source>%n minutes after</source>
         <extracomment>When a reminder rings.</extracomment>
         <translation>
-            <numerusform>%n minute after</numerusform>
-            <numerusform>%n minutes after</numerusform>
+            <numerusform>%Ln minute after</numerusform>
+            <numerusform>%Ln minutes after</numerusform>
         </translation>
     </message>
     <message id="qtn_dcal_hours_after" numerus="yes">
         <source>%n hours after</source>
         <extracomment>When a reminder rings.</extracomment>
         <translation>
-            <numerusform>%n hour after</numerusform>
-            <numerusform>%n hours after</numerusform>
+            <numerusform>%Ln hour after</numerusform>
+            <numerusform>%Ln hours after</numerusform>
         </translation>
     </message>
     <message id="qtn_dcal_days_after" numerus="yes">
         <source>%n days after</source>
         <extracomment>When a reminder rings.</extracomment>
         <translation>
-            <numerusform>%n day after</numerusform>
-            <numerusform>%n days after</numerusform>
+            <numerusform>%Ln day after</numerusform>
+            <numerusform>%Ln days after</numerusform>
         </translation>
     </message>
     <message id="qtn_dcal_accepted">
@@ -390,6 +390,11 @@ SPDX-License-Identifier: LGPL-2.1-or-later
         <source>Attachments</source>
         <extracomment>Caption above what is attached to a note.</extracomment>
         <translation>Attachments</translation>
+    </message>
+    <message id="qtn_dcal_tentative">
+        <source>Tentative</source>
+        <extracomment>Below the title of a note that is not settled yet.</extracomment>
+        <translation>Tentative</translation>
     </message>
 </context>
 </TS>

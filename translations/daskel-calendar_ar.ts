@@ -451,5 +451,10 @@ SPDX-License-Identifier: LGPL-2.1-or-later
         <extracomment>Caption above what is attached to a note.</extracomment>
         <translation>المرفقات</translation>
     </message>
+    <message id="qtn_dcal_tentative">
+        <source>Tentative</source>
+        <extracomment>Below the title of a note that is not settled yet.</extracomment>
+        <translation>مبدئي</translation>
+    </message>
 </context>
 </TS>

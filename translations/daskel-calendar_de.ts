@@ -110,16 +110,16 @@ SPDX-License-Identifier: LGPL-2.1-or-later
         <source>%n items imported.</source>
         <extracomment>Banner after files were taken in.</extracomment>
         <translation>
-            <numerusform>%n Eintrag importiert.</numerusform>
-            <numerusform>%n Einträge importiert.</numerusform>
+            <numerusform>%Ln Eintrag importiert.</numerusform>
+            <numerusform>%Ln Einträge importiert.</numerusform>
         </translation>
     </message>
     <message id="qtn_dcal_import_skipped" numerus="yes">
         <source>%n could not be read.</source>
         <extracomment>Follows the number of items imported.</extracomment>
         <translation>
-            <numerusform>%n war nicht lesbar.</numerusform>
-            <numerusform>%n waren nicht lesbar.</numerusform>
+            <numerusform>%Ln war nicht lesbar.</numerusform>
+            <numerusform>%Ln waren nicht lesbar.</numerusform>
         </translation>
     </message>
     <message id="qtn_dcal_import_unreadable">
@@ -212,7 +212,7 @@ SPDX-License-Identifier: LGPL-2.1-or-later
         <extracomment>How often a note repeats.</extracomment>
         <translation>
             <numerusform>Jede Minute</numerusform>
-            <numerusform>Alle %n Minuten</numerusform>
+            <numerusform>Alle %Ln Minuten</numerusform>
         </translation>
     </message>
     <message id="qtn_dcal_every_hours" numerus="yes">
@@ -220,7 +220,7 @@ SPDX-License-Identifier: LGPL-2.1-or-later
         <extracomment>How often a note repeats.</extracomment>
         <translation>
             <numerusform>Jede Stunde</numerusform>
-            <numerusform>Alle %n Stunden</numerusform>
+            <numerusform>Alle %Ln Stunden</numerusform>
         </translation>
     </message>
     <message id="qtn_dcal_every_days" numerus="yes">
@@ -228,7 +228,7 @@ SPDX-License-Identifier: LGPL-2.1-or-later
         <extracomment>How often a note repeats.</extracomment>
         <translation>
             <numerusform>Jeden Tag</numerusform>
-            <numerusform>Alle %n Tage</numerusform>
+            <numerusform>Alle %Ln Tage</numerusform>
         </translation>
     </message>
     <message id="qtn_dcal_every_weeks" numerus="yes">
@@ -236,7 +236,7 @@ SPDX-License-Identifier: LGPL-2.1-or-later
         <extracomment>How often a note repeats.</extracomment>
         <translation>
             <numerusform>Jede Woche</numerusform>
-            <numerusform>Alle %n Wochen</numerusform>
+            <numerusform>Alle %Ln Wochen</numerusform>
         </translation>
     </message>
     <message id="qtn_dcal_every_months" numerus="yes">
@@ -244,7 +244,7 @@ SPDX-License-Identifier: LGPL-2.1-or-later
         <extracomment>How often a note repeats.</extracomment>
         <translation>
             <numerusform>Jeden Monat</numerusform>
-            <numerusform>Alle %n Monate</numerusform>
+            <numerusform>Alle %Ln Monate</numerusform>
         </translation>
     </message>
     <message id="qtn_dcal_every_years" numerus="yes">
@@ -252,7 +252,7 @@ SPDX-License-Identifier: LGPL-2.1-or-later
         <extracomment>How often a note repeats.</extracomment>
         <translation>
             <numerusform>Jedes Jahr</numerusform>
-            <numerusform>Alle %n Jahre</numerusform>
+            <numerusform>Alle %Ln Jahre</numerusform>
         </translation>
     </message>
     <message id="qtn_dcal_repeats_on">
@@ -270,7 +270,7 @@ SPDX-License-Identifier: LGPL-2.1-or-later
         <extracomment>%1 is how often, %n the number of times in all.</extracomment>
         <translation>
             <numerusform>%1, einmal</numerusform>
-            <numerusform>%1, %n-mal</numerusform>
+            <numerusform>%1, %Ln-mal</numerusform>
         </translation>
     </message>
     <message id="qtn_dcal_list_separator">
@@ -287,48 +287,48 @@ SPDX-License-Identifier: LGPL-2.1-or-later
         <source>%n minutes before</source>
         <extracomment>When a reminder rings.</extracomment>
         <translation>
-            <numerusform>%n Minute vorher</numerusform>
-            <numerusform>%n Minuten vorher</numerusform>
+            <numerusform>%Ln Minute vorher</numerusform>
+            <numerusform>%Ln Minuten vorher</numerusform>
         </translation>
     </message>
     <message id="qtn_dcal_hours_before" numerus="yes">
         <source>%n hours before</source>
         <extracomment>When a reminder rings.</extracomment>
         <translation>
-            <numerusform>%n Stunde vorher</numerusform>
-            <numerusform>%n Stunden vorher</numerusform>
+            <numerusform>%Ln Stunde vorher</numerusform>
+            <numerusform>%Ln Stunden vorher</numerusform>
         </translation>
     </message>
     <message id="qtn_dcal_days_before" numerus="yes">
         <source>%n days before</source>
         <extracomment>When a reminder rings.</extracomment>
         <translation>
-            <numerusform>%n Tag vorher</numerusform>
-            <numerusform>%n Tage vorher</numerusform>
+            <numerusform>%Ln Tag vorher</numerusform>
+            <numerusform>%Ln Tage vorher</numerusform>
         </translation>
     </message>
     <message id="qtn_dcal_minutes_after" numerus="yes">
         <source>%n minutes after</source>
         <extracomment>When a reminder rings.</extracomment>
         <translation>
-            <numerusform>%n Minute danach</numerusform>
-            <numerusform>%n Minuten danach</numerusform>
+            <numerusform>%Ln Minute danach</numerusform>
+            <numerusform>%Ln Minuten danach</numerusform>
         </translation>
     </message>
     <message id="qtn_dcal_hours_after" numerus="yes">
         <source>%n hours after</source>
         <extracomment>When a reminder rings.</extracomment>
         <translation>
-            <numerusform>%n Stunde danach</numerusform>
-            <numerusform>%n Stunden danach</numerusform>
+            <numerusform>%Ln Stunde danach</numerusform>
+            <numerusform>%Ln Stunden danach</numerusform>
         </translation>
     </message>
     <message id="qtn_dcal_days_after" numerus="yes">
         <source>%n days after</source>
         <extracomment>When a reminder rings.</extracomment>
         <translation>
-            <numerusform>%n Tag danach</numerusform>
-            <numerusform>%n Tage danach</numerusform>
+            <numerusform>%Ln Tag danach</numerusform>
+            <numerusform>%Ln Tage danach</numerusform>
         </translation>
     </message>
     <message id="qtn_dcal_accepted">
@@ -390,6 +390,11 @@ SPDX-License-Identifier: LGPL-2.1-or-later
         <source>Attachments</source>
         <extracomment>Caption above what is attached to a note.</extracomment>
         <translation>Anhänge</translation>
+    </message>
+    <message id="qtn_dcal_tentative">
+        <source>Tentative</source>
+        <extracomment>Below the title of a note that is not settled yet.</extracomment>
+        <translation>Unter Vorbehalt</translation>
     </message>
 </context>
 </TS>

@@ -110,16 +110,16 @@ SPDX-License-Identifier: LGPL-2.1-or-later
         <source>%n items imported.</source>
         <extracomment>Banner after files were taken in.</extracomment>
         <translation>
-            <numerusform>%n kohde tuotu.</numerusform>
-            <numerusform>%n kohdetta tuotu.</numerusform>
+            <numerusform>%Ln kohde tuotu.</numerusform>
+            <numerusform>%Ln kohdetta tuotu.</numerusform>
         </translation>
     </message>
     <message id="qtn_dcal_import_skipped" numerus="yes">
         <source>%n could not be read.</source>
         <extracomment>Follows the number of items imported.</extracomment>
         <translation>
-            <numerusform>%n ei ollut luettavissa.</numerusform>
-            <numerusform>%n ei ollut luettavissa.</numerusform>
+            <numerusform>%Ln ei ollut luettavissa.</numerusform>
+            <numerusform>%Ln ei ollut luettavissa.</numerusform>
         </translation>
     </message>
     <message id="qtn_dcal_import_unreadable">
@@ -212,7 +212,7 @@ SPDX-License-Identifier: LGPL-2.1-or-later
         <extracomment>How often a note repeats.</extracomment>
         <translation>
             <numerusform>Toistuu joka minuutti</numerusform>
-            <numerusform>Toistuu %n minuutin välein</numerusform>
+            <numerusform>Toistuu %Ln minuutin välein</numerusform>
         </translation>
     </message>
     <message id="qtn_dcal_every_hours" numerus="yes">
@@ -220,7 +220,7 @@ SPDX-License-Identifier: LGPL-2.1-or-later
         <extracomment>How often a note repeats.</extracomment>
         <translation>
             <numerusform>Toistuu joka tunti</numerusform>
-            <numerusform>Toistuu %n tunnin välein</numerusform>
+            <numerusform>Toistuu %Ln tunnin välein</numerusform>
         </translation>
     </message>
     <message id="qtn_dcal_every_days" numerus="yes">
@@ -228,7 +228,7 @@ SPDX-License-Identifier: LGPL-2.1-or-later
         <extracomment>How often a note repeats.</extracomment>
         <translation>
             <numerusform>Toistuu joka päivä</numerusform>
-            <numerusform>Toistuu %n päivän välein</numerusform>
+            <numerusform>Toistuu %Ln päivän välein</numerusform>
         </translation>
     </message>
     <message id="qtn_dcal_every_weeks" numerus="yes">
@@ -236,7 +236,7 @@ SPDX-License-Identifier: LGPL-2.1-or-later
         <extracomment>How often a note repeats.</extracomment>
         <translation>
             <numerusform>Toistuu joka viikko</numerusform>
-            <numerusform>Toistuu %n viikon välein</numerusform>
+            <numerusform>Toistuu %Ln viikon välein</numerusform>
         </translation>
     </message>
     <message id="qtn_dcal_every_months" numerus="yes">
@@ -244,7 +244,7 @@ SPDX-License-Identifier: LGPL-2.1-or-later
         <extracomment>How often a note repeats.</extracomment>
         <translation>
             <numerusform>Toistuu joka kuukausi</numerusform>
-            <numerusform>Toistuu %n kuukauden välein</numerusform>
+            <numerusform>Toistuu %Ln kuukauden välein</numerusform>
         </translation>
     </message>
     <message id="qtn_dcal_every_years" numerus="yes">
@@ -252,7 +252,7 @@ SPDX-License-Identifier: LGPL-2.1-or-later
         <extracomment>How often a note repeats.</extracomment>
         <translation>
             <numerusform>Toistuu joka vuosi</numerusform>
-            <numerusform>Toistuu %n vuoden välein</numerusform>
+            <numerusform>Toistuu %Ln vuoden välein</numerusform>
         </translation>
     </message>
     <message id="qtn_dcal_repeats_on">
@@ -270,7 +270,7 @@ SPDX-License-Identifier: LGPL-2.1-or-later
         <extracomment>%1 is how often, %n the number of times in all.</extracomment>
         <translation>
             <numerusform>%1, kerran</numerusform>
-            <numerusform>%1, %n kertaa</numerusform>
+            <numerusform>%1, %Ln kertaa</numerusform>
         </translation>
     </message>
     <message id="qtn_dcal_list_separator">
@@ -287,48 +287,48 @@ SPDX-License-Identifier: LGPL-2.1-or-later
         <source>%n minutes before</source>
         <extracomment>When a reminder rings.</extracomment>
         <translation>
-            <numerusform>%n minuutti ennen</numerusform>
-            <numerusform>%n minuuttia ennen</numerusform>
+            <numerusform>%Ln minuutti ennen</numerusform>
+            <numerusform>%Ln minuuttia ennen</numerusform>
         </translation>
     </message>
     <message id="qtn_dcal_hours_before" numerus="yes">
         <source>%n hours before</source>
         <extracomment>When a reminder rings.</extracomment>
         <translation>
-            <numerusform>%n tunti ennen</numerusform>
-            <numerusform>%n tuntia ennen</numerusform>
+            <numerusform>%Ln tunti ennen</numerusform>
+            <numerusform>%Ln tuntia ennen</numerusform>
         </translation>
     </message>
     <message id="qtn_dcal_days_before" numerus="yes">
         <source>%n days before</source>
         <extracomment>When a reminder rings.</extracomment>
         <translation>
-            <numerusform>%n päivä ennen</numerusform>
-            <numerusform>%n päivää ennen</numerusform>
+            <numerusform>%Ln päivä ennen</numerusform>
+            <numerusform>%Ln päivää ennen</numerusform>
         </translation>
     </message>
     <message id="qtn_dcal_minutes_after" numerus="yes">
         <source>%n minutes after</source>
         <extracomment>When a reminder rings.</extracomment>
         <translation>
-            <numerusform>%n minuutti jälkeen</numerusform>
-            <numerusform>%n minuuttia jälkeen</numerusform>
+            <numerusform>%Ln minuutti jälkeen</numerusform>
+            <numerusform>%Ln minuuttia jälkeen</numerusform>
         </translation>
     </message>
     <message id="qtn_dcal_hours_after" numerus="yes">
         <source>%n hours after</source>
         <extracomment>When a reminder rings.</extracomment>
         <translation>
-            <numerusform>%n tunti jälkeen</numerusform>
-            <numerusform>%n tuntia jälkeen</numerusform>
+            <numerusform>%Ln tunti jälkeen</numerusform>
+            <numerusform>%Ln tuntia jälkeen</numerusform>
         </translation>
     </message>
     <message id="qtn_dcal_days_after" numerus="yes">
         <source>%n days after</source>
         <extracomment>When a reminder rings.</extracomment>
         <translation>
-            <numerusform>%n päivä jälkeen</numerusform>
-            <numerusform>%n päivää jälkeen</numerusform>
+            <numerusform>%Ln päivä jälkeen</numerusform>
+            <numerusform>%Ln päivää jälkeen</numerusform>
         </translation>
     </message>
     <message id="qtn_dcal_accepted">
@@ -390,6 +390,11 @@ SPDX-License-Identifier: LGPL-2.1-or-later
         <source>Attachments</source>
         <extracomment>Caption above what is attached to a note.</extracomment>
         <translation>Liitteet</translation>
+    </message>
+    <message id="qtn_dcal_tentative">
+        <source>Tentative</source>
+        <extracomment>Below the title of a note that is not settled yet.</extracomment>
+        <translation>Alustava</translation>
     </message>
 </context>
 </TS>

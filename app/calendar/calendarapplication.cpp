@@ -10,6 +10,7 @@
 #include <daskel/db_instance.h>
 #include <mkcal/calendarimporter.h>
 #include <mkcal/sqlitestorage.h>
+#include <touchcore/mlocale.h>
 #include <touchcore/mtheme.h>
 
 #include <QCryptographicHash>
@@ -18,6 +19,7 @@
 #include <QDBusReply>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QLocale>
 
 /// What a static library holds is not found by itself. Outside of any namespace, as Qt wants it.
 static void initResources()
@@ -85,6 +87,8 @@ void CalendarApplication::prepare()
 void CalendarApplication::installTexts()
 {
     DaskelTranslator::installLibdaskelTranslationCatalogs(QStringLiteral("daskel-calendar"));
+    // Numbers in texts are written as the language writes them.
+    QLocale::setDefault(QLocale(MLocale::getDefault().name()));
 }
 
 void CalendarApplication::start(const QStringList &files)

@@ -3,6 +3,7 @@
 
 #include "incidences.h"
 #include "loadedrows.h"
+#include "pages/links.h"
 #include "pages/notetext.h"
 #include "testenvironment.h"
 
@@ -18,6 +19,8 @@ private Q_SLOTS:
     void when();
     void repetition_data();
     void repetition();
+    void enclosedFiles_data();
+    void enclosedFiles();
     void reminder_data();
     void reminder();
 
@@ -105,6 +108,40 @@ void NoteTextTest::reminder()
     const auto alarm = event->newAlarm();
     alarm->setStartOffset(KCalCore::Duration(seconds));
     QTEST(NoteText::reminder(*alarm), "words");
+}
+
+void NoteTextTest::enclosedFiles_data()
+{
+    QTest::addColumn<QString>("label");
+    QTest::addColumn<QString>("mimeType");
+    QTest::addColumn<QString>("fileName");
+    QTest::newRow("named") << "plan.pdf"
+                           << "application/pdf"
+                           << "plan.pdf";
+    QTest::newRow("without a suffix") << "plan"
+                                      << "application/pdf"
+                                      << "plan.pdf";
+    QTest::newRow("without a name") << ""
+                                    << "application/pdf"
+                                    << "attachment.pdf";
+    QTest::newRow("without anything") << ""
+                                      << ""
+                                      << "attachment";
+    QTest::newRow("out of the folder") << "../../.profile"
+                                       << "application/pdf"
+                                       << "attachment.pdf";
+    QTest::newRow("another way out") << "..\\..\\plan.pdf"
+                                     << ""
+                                     << "plan.pdf";
+}
+
+void NoteTextTest::enclosedFiles()
+{
+    QFETCH(QString, label);
+    QFETCH(QString, mimeType);
+    KCalCore::Attachment attachment(QByteArray("data").toBase64(), mimeType);
+    attachment.setLabel(label);
+    QTEST(Links::fileName(attachment), "fileName");
 }
 
 LOADER_TEST_MAIN(NoteTextTest)

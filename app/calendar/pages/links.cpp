@@ -3,6 +3,8 @@
 
 #include "links.h"
 
+#include <QFileInfo>
+#include <QMimeDatabase>
 #include <QTextDocumentFragment>
 #include <QUrl>
 
@@ -20,6 +22,19 @@ QString Links::mapAddress(const KCalCore::Incidence &incidence)
 QString Links::attachmentAddress(const KCalCore::Attachment &attachment)
 {
     return attachment.isUri() ? attachment.uri() : QString();
+}
+
+QString Links::fileName(const KCalCore::Attachment &attachment)
+{
+    // A label may come from anybody: it names a file, and no folder.
+    const QString label =
+        QFileInfo(QString(attachment.label()).replace(QLatin1Char('\\'), QLatin1Char('/')))
+            .fileName();
+    const bool isName = !label.isEmpty() && !label.startsWith(QLatin1Char('.'));
+    const QString suffix = QMimeDatabase().mimeTypeForName(attachment.mimeType()).preferredSuffix();
+    const QString name = isName ? label : QStringLiteral("attachment");
+    return suffix.isEmpty() || name.contains(QLatin1Char('.')) ? name
+                                                               : name + QLatin1Char('.') + suffix;
 }
 
 QString Links::plainDescription(const KCalCore::Incidence &incidence)

@@ -16,6 +16,8 @@ namespace Links
 QString mapAddress(const KCalCore::Incidence &incidence);
 /// Of an attachment; empty for one that lies in the note itself.
 QString attachmentAddress(const KCalCore::Attachment &attachment);
+/// What a file with an attachment that lies in the note itself is called.
+QString fileName(const KCalCore::Attachment &attachment);
 /// The description without the marks of rich text.
 QString plainDescription(const KCalCore::Incidence &incidence);
 } // namespace Links

@@ -21,6 +21,7 @@
 #include <KCalendarCore/Todo>
 
 #include <QGraphicsLinearLayout>
+#include <QSaveFile>
 #include <QUrl>
 
 using KCalCore::Incidence;
@@ -118,6 +119,8 @@ void NoteViewContent::addTitle(const Incidence::Ptr &note)
     addText(title.isEmpty() ? qtTrId("qtn_caln_no_title") : title, "NoteViewTitle");
     if (note->status() == Incidence::StatusCanceled)
         addText(qtTrId("qtn_caln_cancelled"), "NoteViewWarning");
+    else if (note->status() == Incidence::StatusTentative)
+        addText(qtTrId("qtn_dcal_tentative"), "NoteViewCaption");
     const auto notebook = NotebookManager::instance()->getNotebook(
         DbInstance::instance()->calendar()->notebook(note));
     if (notebook) {
@@ -170,7 +173,7 @@ void NoteViewContent::addLinks(const Incidence &note)
         if (!address.isEmpty())
             addLink(name, address);
         else
-            addText(name, "NoteViewText");
+            addEnclosed(attachment);
     }
 }
 
@@ -198,6 +201,22 @@ void NoteViewContent::addLink(const QString &text, const QString &address)
     m_layout->addItem(button);
     connect(button, &MButton::clicked, this,
             [address] { openLink(QUrl(address), MApplication::activeApplicationWindow()); });
+}
+
+/// What lies in the note itself is written out for the program that opens it.
+void NoteViewContent::addEnclosed(const KCalCore::Attachment &attachment)
+{
+    const QString name = Links::fileName(attachment);
+    auto *button = new MButton(name, this);
+    button->setStyleName(QStringLiteral("NoteViewLink"));
+    m_layout->addItem(button);
+    connect(button, &MButton::clicked, this, [this, attachment, name] {
+        const QString fileName = m_enclosed.filePath(name);
+        QSaveFile file(fileName);
+        if (file.open(QIODevice::WriteOnly) && file.write(attachment.decodedData()) >= 0
+            && file.commit())
+            openLink(QUrl::fromLocalFile(fileName), MApplication::activeApplicationWindow());
+    });
 }
 
 /// Ticking off is what one does with a to-do.

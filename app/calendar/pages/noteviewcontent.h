@@ -8,7 +8,10 @@
 #include <kcalcompat/kdatetime.h>
 #include <touchcore/mstylablewidget.h>
 
+#include <KCalendarCore/Attachment>
 #include <KCalendarCore/Incidence>
+
+#include <QTemporaryDir>
 
 class QGraphicsLinearLayout;
 
@@ -42,6 +45,7 @@ private:
     void addTitle(const KCalCore::Incidence::Ptr &incidence);
     void addPeople(const KCalCore::Incidence &incidence);
     void addLinks(const KCalCore::Incidence &incidence);
+    void addEnclosed(const KCalCore::Attachment &attachment);
     void addSection(const char *captionId, const QString &text);
     void addText(const QString &text, const char *styleName);
     void addLink(const QString &text, const QString &address);
@@ -52,6 +56,7 @@ private:
     KDateTime m_recurrenceId;
     QDateTime m_start;
     QGraphicsLinearLayout *m_layout = nullptr;
+    QTemporaryDir m_enclosed; ///< attachments written out
 };
 
 #endif
