@@ -53,6 +53,7 @@ private Q_SLOTS:
     void dimTakesPresses();
     void answeredDialogDoesNotHoldUp();
     void executes();
+    void executesFromATap();
     void executesNested();
     void executedDialogMayBeDeleted();
     void quitEndsExecution();
@@ -241,6 +242,25 @@ void TestMDialog::executes()
     connect(&box, &MSceneWindow::appeared, &box, [&] { window.tap(box.button(MMessageBox::No)); });
     QCOMPARE(box.exec(&window), 65536);
     QCOMPARE(appeared.size(), 1);
+}
+
+void TestMDialog::executesFromATap()
+{
+    SceneTest window;
+    auto *page = new MApplicationPage;
+    auto *button = new MButton(QStringLiteral("Delete"));
+    page->setCentralWidget(button);
+    page->appear(&window);
+    MMessageBox box(QStringLiteral("Delete?"), yesOrNo);
+    QVector<int> answers;
+    connect(button, &MButton::clicked, &box, [&] {
+        later(&box, [&] { window.tap(box.button(MMessageBox::Yes)); });
+        answers.append(box.exec());
+    });
+    // The button is as good as before.
+    window.tap(button);
+    window.tap(button);
+    QCOMPARE(answers, QVector<int>({1024, 1024}));
 }
 
 void TestMDialog::executesNested()

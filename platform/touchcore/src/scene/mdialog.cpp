@@ -10,6 +10,7 @@
 
 #include <QEventLoop>
 #include <QGraphicsLinearLayout>
+#include <QGraphicsScene>
 #include <QKeyEvent>
 #include <QPointer>
 
@@ -112,6 +113,10 @@ int MDialog::exec(MWindow *window)
     connect(this, &QObject::destroyed, &loop, &QEventLoop::quit);
     d->isExecuting = true;
     appear(window);
+    // The button whose click asks would keep the finger's events until the answer, to itself.
+    QGraphicsItem *touched = guard && scene() ? scene()->mouseGrabberItem() : nullptr;
+    if (touched)
+        touched->ungrabMouse();
     // Without a window, or answered already by one who heard that it appeared.
     if (guard && !d->isFinished)
         loop.exec(QEventLoop::DialogExec);
