@@ -56,19 +56,29 @@ def to_lint(compiled, changed):
     return [source for source in compiled if source in wanted]
 
 
-def compiled_sources(build):
-    """Our sources among the compile commands; what was generated lies in the build folder."""
+def compile_commands(build):
+    """The compile command of each of our sources; what was generated lies in the build folder."""
     commands = json.loads((build / "compile_commands.json").read_text())
-    files = {Path(os.path.relpath(command["file"])) for command in commands}
-    return sorted(path for path in files if path.parts[0] not in ("..", build.parts[0]))
+    ours = {Path(os.path.relpath(command["file"])): command for command in commands}
+    return {path: ours[path] for path in sorted(ours) if path.parts[0] not in ("..", build.parts[0])}
 
 
-def generate_moc_files(build):
-    """Runs moc for every target without compiling any of them."""
-    targets = subprocess.run(["ninja", "-C", build, "-t", "targets", "all"],
-                             capture_output=True, text=True, check=False).stdout
-    autogen = sorted(set(re.findall(r"^([\w-]+_autogen): phony", targets, re.MULTILINE)))
-    return output_of("ninja", "-C", build, *autogen) if autogen else (True, "")
+def compiled_sources(build):
+    return list(compile_commands(build))
+
+
+def generate_moc_files(build, sources):
+    """Runs moc for the targets of these sources. Not by the targets that do so in a build: those
+    first compile all that theirs link."""
+    commands = compile_commands(build)
+    owners = {re.search(r" -o \S*CMakeFiles/([^/]+)\.dir/", commands[source]["command"])[1]
+              for source in sources}
+    for information in sorted(build.rglob("*_autogen.dir/AutogenInfo.json")):
+        if information.parent.name.removesuffix("_autogen.dir") in owners:
+            ok, log = output_of("cmake", "-E", "cmake_autogen", information.resolve(), "Debug")
+            if not ok:
+                return False, log
+    return True, ""
 
 
 def digest(*paths):

@@ -88,7 +88,7 @@ def check_lint(report, everything):
     if not everything:
         sources = lint.to_lint(sources, lint.changed_files())
     if sources:
-        ok, log = lint.generate_moc_files(folder)
+        ok, log = lint.generate_moc_files(folder, sources)
     if ok:
         lint.lint(report, folder, sources)
     else:
