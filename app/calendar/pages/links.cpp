@@ -19,11 +19,6 @@ QString Links::mapAddress(const KCalCore::Incidence &incidence)
         + QString::fromLatin1(QUrl::toPercentEncoding(incidence.location()));
 }
 
-QString Links::attachmentAddress(const KCalCore::Attachment &attachment)
-{
-    return attachment.isUri() ? attachment.uri() : QString();
-}
-
 QString Links::fileName(const KCalCore::Attachment &attachment)
 {
     // A label may come from anybody: it names a file, and no folder.

@@ -14,8 +14,6 @@ namespace Links
 {
 /// Of the place of a note (RFC 5870).
 QString mapAddress(const KCalCore::Incidence &incidence);
-/// Of an attachment; empty for one that lies in the note itself.
-QString attachmentAddress(const KCalCore::Attachment &attachment);
 /// What a file with an attachment that lies in the note itself is called.
 QString fileName(const KCalCore::Attachment &attachment);
 /// The description without the marks of rich text.

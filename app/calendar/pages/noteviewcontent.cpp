@@ -168,7 +168,7 @@ void NoteViewContent::addLinks(const Incidence &note)
     if (!note.url().isEmpty())
         addLink(note.url().toDisplayString(), note.url().toString());
     for (const auto &attachment : attachments) {
-        const QString address = Links::attachmentAddress(attachment);
+        const QString address = attachment.uri();
         const QString name = attachment.label().isEmpty() ? address : attachment.label();
         if (!address.isEmpty())
             addLink(name, address);
@@ -211,7 +211,9 @@ void NoteViewContent::addEnclosed(const KCalCore::Attachment &attachment)
     button->setStyleName(QStringLiteral("NoteViewLink"));
     m_layout->addItem(button);
     connect(button, &MButton::clicked, this, [this, attachment, name] {
-        const QString fileName = m_enclosed.filePath(name);
+        if (!m_enclosed)
+            m_enclosed = std::make_unique<QTemporaryDir>();
+        const QString fileName = m_enclosed->filePath(name);
         QSaveFile file(fileName);
         if (file.open(QIODevice::WriteOnly) && file.write(attachment.decodedData()) >= 0
             && file.commit())

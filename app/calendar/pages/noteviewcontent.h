@@ -13,6 +13,8 @@
 
 #include <QTemporaryDir>
 
+#include <memory>
+
 class QGraphicsLinearLayout;
 
 /// What is known of one note, from its title down to its attachments.
@@ -56,7 +58,7 @@ private:
     KDateTime m_recurrenceId;
     QDateTime m_start;
     QGraphicsLinearLayout *m_layout = nullptr;
-    QTemporaryDir m_enclosed; ///< attachments written out
+    std::unique_ptr<QTemporaryDir> m_enclosed; ///< attachments written out, made when needed
 };
 
 #endif
