@@ -19,7 +19,9 @@
 #include <QDBusReply>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QGuiApplication>
 #include <QLocale>
+#include <QTranslator>
 
 /// What a static library holds is not found by itself. Outside of any namespace, as Qt wants it.
 static void initResources()
@@ -30,6 +32,21 @@ static void initResources()
 
 namespace
 {
+/// Whenever a catalogue is installed, also later by the library, Qt asks them all for the reading
+/// direction, and only its own would answer.
+class ReadingDirection : public QTranslator
+{
+public:
+    bool isEmpty() const override { return false; }
+    QString translate(const char *, const char *source, const char *, int) const override
+    {
+        if (qstrcmp(source, "QT_LAYOUT_DIRECTION") != 0)
+            return QString();
+        const bool isMirrored = QLocale().textDirection() == Qt::RightToLeft;
+        return isMirrored ? QStringLiteral("RTL") : QStringLiteral("LTR");
+    }
+};
+
 const QString busPath = QStringLiteral("/org/daskel/Calendar");
 const QString busInterface = QStringLiteral("org.daskel.Calendar");
 
@@ -86,9 +103,14 @@ void CalendarApplication::prepare()
 
 void CalendarApplication::installTexts()
 {
+    // Numbers in texts are written as the language writes them, and all runs in its direction.
+    const QLocale language(MLocale::getDefault().name());
+    QLocale::setDefault(language);
+    static ReadingDirection direction;
+    static const bool isInstalled = QCoreApplication::installTranslator(&direction);
+    Q_UNUSED(isInstalled)
     DaskelTranslator::installLibdaskelTranslationCatalogs(QStringLiteral("daskel-calendar"));
-    // Numbers in texts are written as the language writes them.
-    QLocale::setDefault(QLocale(MLocale::getDefault().name()));
+    QGuiApplication::setLayoutDirection(language.textDirection());
 }
 
 void CalendarApplication::start(const QStringList &files)

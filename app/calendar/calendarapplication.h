@@ -23,7 +23,7 @@ public:
 
     /// Makes the pictures, texts and looks of the application known; once, before the window.
     static void prepare();
-    /// The catalogues in the language of the default locale.
+    /// The catalogues, digits and reading direction of the default locale's language.
     static void installTexts();
 
     /// Opens the calendar and takes the \a files in once it is read.

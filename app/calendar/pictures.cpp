@@ -30,12 +30,11 @@ const QSize portrait(480, 854);
 struct Language {
     const char *name;
     const char *locale;
-    Qt::LayoutDirection direction;
 };
 const Language languages[] = {
-    {"en", "en_GB", Qt::LeftToRight},
-    {"de", "de_DE", Qt::LeftToRight},
-    {"ar", "ar_EG", Qt::RightToLeft},
+    {"en", "en_GB"},
+    {"de", "de_DE"},
+    {"ar", "ar_EG"},
 };
 
 struct Scheme {
@@ -166,7 +165,6 @@ QString writePictures(const QString &folder)
     for (const Language &language : languages) {
         MLocale::setDefault(MLocale(QLatin1String(language.locale)));
         CalendarApplication::installTexts();
-        QGuiApplication::setLayoutDirection(language.direction);
         for (const Scheme &scheme : schemes) {
             MTheme::instance()->setColorScheme(scheme.scheme);
             QString wrong = writeVariant(folder,

@@ -193,6 +193,15 @@ void JourneyTest::themeAndLanguageChangeWhileRunning()
     m_screen->window->retranslate();
     QTRY_VERIFY(m_screen->rows().contains(QStringLiteral("[Donnerstag, 10. März · heute]")));
     QCOMPARE(m_screen->window->windowTitle(), QString("Kalender"));
+    QCOMPARE(m_screen->list()->layoutDirection(), Qt::LeftToRight);
+    MLocale::setDefault(MLocale(QStringLiteral("ar_EG")));
+    CalendarApplication::installTexts();
+    m_screen->window->retranslate();
+    QTRY_COMPARE(m_screen->list()->layoutDirection(), Qt::RightToLeft);
+    // Also after Qt heard of a catalogue of somebody else.
+    QEvent languageChange(QEvent::LanguageChange);
+    QCoreApplication::sendEvent(qApp, &languageChange);
+    QCOMPARE(m_screen->list()->layoutDirection(), Qt::RightToLeft);
     MTheme::instance()->setColorScheme(M::LightScheme);
     MLocale::setDefault(MLocale(QStringLiteral("en_GB")));
     CalendarApplication::installTexts();
