@@ -68,17 +68,15 @@ def compiled_sources(build):
 
 
 def generate_moc_files(build, sources):
-    """Runs moc for the targets of these sources. Not by the targets that do so in a build: those
-    first compile all that theirs link."""
+    """Runs moc for the targets of these sources, and what else of theirs is generated before."""
     commands = compile_commands(build)
     owners = {re.search(r" -o \S*CMakeFiles/([^/]+)\.dir/", commands[source]["command"])[1]
               for source in sources}
-    for information in sorted(build.rglob("*_autogen.dir/AutogenInfo.json")):
-        if information.parent.name.removesuffix("_autogen.dir") in owners:
-            ok, log = output_of("cmake", "-E", "cmake_autogen", information.resolve(), "Debug")
-            if not ok:
-                return False, log
-    return True, ""
+    targets = subprocess.run(["ninja", "-C", build, "-t", "targets", "all"],
+                             capture_output=True, text=True, check=False).stdout
+    autogen = set(re.findall(r"^([\w-]+)_autogen: phony", targets, re.MULTILINE)) & owners
+    names = [f"{target}_autogen" for target in sorted(autogen)]
+    return output_of("ninja", "-C", build, *names) if names else (True, "")
 
 
 def digest(*paths):
